@@ -1,0 +1,129 @@
+# The launcher's bundle: the target `bundle` assembles <build>/bundle/Corvimo.app, complete and
+# movable; installing copies exactly the files listed here, and CPack packs what installing gives.
+
+set(CORVIMO_CLIENT_APP "" CACHE PATH
+    "Bundle of the client that the launcher carries; empty for the example client")
+
+add_custom_target(bundle ALL)
+
+# corvimo_bundle_part(KIND NAME)
+#   Makes the bundle's Contents/NAME, which some command produces, a part of the bundle. KIND is
+#   PROGRAMS for an executable file and FILES for any other.
+function(corvimo_bundle_part kind name)
+    set(file ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/${name})
+    target_sources(bundle PRIVATE ${file})
+    cmake_path(GET name PARENT_PATH folder)
+    install(${kind} ${file} DESTINATION Corvimo.app/Contents/${folder} COMPONENT bundle)
+endfunction()
+
+# corvimo_bundle_file(KIND FILE NAME)
+#   Copies FILE to the bundle's Contents/NAME.
+function(corvimo_bundle_file kind file name)
+    set(copy ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/${name})
+    add_custom_command(
+        OUTPUT ${copy}
+        COMMAND ${CMAKE_COMMAND} -E copy ${file} ${copy}
+        DEPENDS ${file}
+        COMMENT "Bundling ${name}"
+        VERBATIM)
+    corvimo_bundle_part(${kind} ${name})
+endfunction()
+
+# corvimo_bundle_binary(KIND TARGET NAME)
+#   Copies what TARGET builds to the bundle's Contents/NAME. Unless it is built for debugging, the
+#   copy loses its debug information, which is large and names folders of this machine; the original
+#   keeps it for a debugger.
+function(corvimo_bundle_binary kind target name)
+    set(copy ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/${name})
+    add_custom_command(
+        OUTPUT ${copy}
+        COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:${target}> ${copy}
+        COMMAND "$<$<NOT:$<CONFIG:Debug>>:${CMAKE_STRIP};-S;${copy}>"
+        DEPENDS $<TARGET_FILE:${target}>
+        COMMENT "Bundling ${name}"
+        COMMAND_EXPAND_LISTS
+        VERBATIM)
+    corvimo_bundle_part(${kind} ${name})
+endfunction()
+
+# corvimo_bundle_platform_plugins(NAMES...)
+#   Carries Qt's window system plug-ins: the launcher looks for plug-ins in its bundle and nowhere
+#   else.
+function(corvimo_bundle_platform_plugins)
+    foreach(plugin IN LISTS ARGN)
+        if(CORVIMO_QT EQUAL 6)
+            # Qt 6 gives every plug-in a package of its own.
+            find_package(Qt6${plugin} REQUIRED PATHS ${Qt6Gui_DIR} NO_DEFAULT_PATH)
+        endif()
+        get_target_property(file Qt${CORVIMO_QT}::${plugin} LOCATION)
+        cmake_path(GET file FILENAME name)
+        corvimo_bundle_file(FILES ${file} Frameworks/plugins/platforms/${name})
+    endforeach()
+endfunction()
+
+# corvimo_bundle_package()
+#   Packs the client, and again whenever anything in it has changed.
+function(corvimo_bundle_package)
+    set(resources ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/Resources)
+    set(scripts ${PROJECT_SOURCE_DIR}/scripts)
+    set(client ${CORVIMO_CLIENT_APP})
+    if(NOT client)
+        get_target_property(client example_client CORVIMO_APP)
+        get_target_property(stamp example_client CORVIMO_STAMP)
+    endif()
+    add_custom_command(
+        OUTPUT ${resources}/package/lumaport.cpk ${resources}/INFO
+        COMMAND ${scripts}/make-package.sh
+            --depfile ${PROJECT_BINARY_DIR}/bundle/lumaport.cpk.d ${client} ${resources}
+        DEPENDS ${scripts}/make-package.sh ${scripts}/make_package.py ${stamp}
+        DEPFILE ${PROJECT_BINARY_DIR}/bundle/lumaport.cpk.d
+        COMMENT "Packing the client ${client}"
+        VERBATIM)
+    add_dependencies(bundle example_client)
+    corvimo_bundle_part(FILES Resources/package/lumaport.cpk)
+    corvimo_bundle_part(FILES Resources/INFO)
+endfunction()
+
+set(resources ${PROJECT_SOURCE_DIR}/ui-client/launcher/resources)
+configure_file(${resources}/Info.plist.in ${PROJECT_BINARY_DIR}/bundle/Info.plist @ONLY)
+corvimo_bundle_file(FILES ${PROJECT_BINARY_DIR}/bundle/Info.plist Info.plist)
+corvimo_bundle_binary(PROGRAMS launcher MacOS/launcher)
+corvimo_bundle_binary(FILES deskui-qt Frameworks/libdeskui-qt${CMAKE_SHARED_LIBRARY_SUFFIX})
+corvimo_bundle_file(FILES ${resources}/images/ico_72_lumaport.png
+    Resources/images/ico_72_lumaport.png)
+corvimo_bundle_package()
+if(APPLE)
+    corvimo_bundle_platform_plugins(QCocoaIntegrationPlugin)
+else()
+    corvimo_bundle_platform_plugins(
+        QXcbIntegrationPlugin QOffscreenIntegrationPlugin QMinimalIntegrationPlugin)
+    # Stand-ins for two tools of macOS, each below PlatformTools at the path that it has there.
+    corvimo_bundle_file(PROGRAMS ${resources}/platform-tools/open PlatformTools/usr/bin/open)
+    string(CONCAT lsregister
+        PlatformTools/System/Library/Frameworks/CoreServices.framework
+        /Frameworks/LaunchServices.framework/Support/lsregister)
+    corvimo_bundle_file(PROGRAMS ${resources}/platform-tools/lsregister ${lsregister})
+endif()
+
+if(APPLE)
+    # Qt itself joins the installed bundle, and every reference to it becomes relative.
+    install(CODE [[
+        include(BundleUtilities)
+        file(GLOB plugins $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/Corvimo.app/Contents/Frameworks/plugins/*/*.dylib)
+        fixup_bundle($ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/Corvimo.app "${plugins}" "")
+    ]] COMPONENT bundle)
+endif()
+
+if(PROJECT_IS_TOP_LEVEL)
+    set(CPACK_PACKAGE_NAME corvimo-launcher)
+    set(CPACK_PACKAGE_VENDOR Corvimo)
+    set(CPACK_COMPONENTS_ALL bundle)
+    set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+    set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+    if(APPLE)
+        set(CPACK_GENERATOR DragNDrop)
+    else()
+        set(CPACK_GENERATOR TGZ)
+    endif()
+    include(CPack)
+endif()
