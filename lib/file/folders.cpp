@@ -1,0 +1,114 @@
+#include <cerrno>
+
+#include "lib/file/file-op-internal.h"
+#include "lib/file/file-op.h"
+
+namespace {
+
+constexpr mode_t kFolderMode = 0777;
+
+// Creates one folder; success also when somebody else has created it first. errno tells the
+// failure.
+bool CreateFolder(const std::string& path) {
+    if (mkdir(path.c_str(), kFolderMode) == 0) {
+        return true;
+    }
+    const int error = errno;
+    if (error == EEXIST && IsFolder(path)) {
+        return true;
+    }
+    errno = error;
+    return false;
+}
+
+int ReportUncreatedFolder(const std::string& path, int error) {
+    LOG_MSG(ERROR, "path = %s errno : %s", path.c_str(), ErrorText(error).c_str());
+    errno = error;
+    return -2;
+}
+
+// Sees to it that one level is there on the way down. False with errno set when the way ends.
+bool PassLevel(const std::string& prefix, bool is_last) {
+    struct stat status;
+    if (stat(prefix.c_str(), &status) != 0) {
+        return CreateFolder(prefix);
+    }
+    if (S_ISDIR(status.st_mode)) {
+        return true;
+    }
+    if (is_last) {
+        LOG_MSG(INFO, "FSMKDirP: path: %s is existing file or symbolic link pointed to file",
+                prefix.c_str());
+        errno = EEXIST;
+        return false;
+    }
+    // Passed for now: creating the next level below it fails, and with the right error.
+    LOG_MSG(INFO, "FSMKDirP: path: %s is symbolic link pointed to folder", prefix.c_str());
+    return true;
+}
+
+int FSMKDirP(const std::string& path) {
+    // Mostly only the last level is missing. Whatever else is wrong shows on the way down.
+    if (mkdir(path.c_str(), kFolderMode) == 0) {
+        return 0;
+    }
+    std::size_t end = path[0] == '/' ? 1 : 0;
+    bool is_last = false;
+    while (!is_last) {
+        end = path.find('/', end);
+        is_last = end == std::string::npos || end + 1 == path.size();
+        if (!PassLevel(path.substr(0, end), is_last)) {
+            return ReportUncreatedFolder(path, errno);
+        }
+        ++end;
+    }
+    return 0;
+}
+
+}  // namespace
+
+int FSMKDir(const std::string& path, bool recursive) {
+    if (path.empty()) {
+        return -1;
+    }
+    _FILE_INFO_tag info;
+    if (GetFileInfo(path, info) != 0) {
+        LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'", path.c_str());
+        return -1;
+    }
+    if (info.exists) {
+        if (info.type == FILE_TYPE_DIR) {
+            return 0;
+        }
+        LOG_MSG(ERROR, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)",
+                path.c_str(), static_cast<int>(info.type));
+        return -1;
+    }
+    if (recursive) {
+        return FSMKDirP(path);
+    }
+    return CreateFolder(path) ? 0 : ReportUncreatedFolder(path, errno);
+}
+
+int FSMKDirFromRoot(const std::string& target, const std::string& root) {
+    if (root.size() > target.size()) {
+        LOG_MSG(ERROR, "Giving a root '%s' whose length is larger then target's '%s'.",
+                root.c_str(), target.c_str());
+        return -1;
+    }
+    if (!FSIsParentFolder(root, target)) {
+        LOG_MSG(ERROR, "root '%s' is not a parent folder of target '%s'", root.c_str(),
+                target.c_str());
+        return -1;
+    }
+    const std::string rest = target.substr(root.size());
+    std::string done;
+    while (done != rest) {
+        done = rest.substr(0, rest.find('/', done.size() + 1));
+        LOG_MSG(DEBUG, "FSMKDirFromRoot: create %s", done.c_str());
+        if (FSMKDir(root + done, false) < 0) {
+            return -1;
+        }
+    }
+    return 0;
+}

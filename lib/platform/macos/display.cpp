@@ -1,0 +1,5 @@
+#include "lib/platform/platform.h"
+
+int PlatformDesignDpi() {
+    return 72;
+}
