@@ -1,0 +1,195 @@
+#include "mac/mac-service.h"
+
+#include <signal.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QProcess>
+#include <cerrno>
+#include <cstdlib>
+#include <system_error>
+
+#include "lib/config.h"
+#include "lib/file/file-op.h"
+#include "lib/log.h"
+#include "lib/platform/platform.h"
+
+#define LOG_SOURCE "mac/mac-service"
+
+namespace {
+
+const std::string kLogComponent = "service_debug";
+
+constexpr int kDefaultTimeout = 10000;
+constexpr int kStopProbes = 15;
+constexpr unsigned kSecondsBetweenProbes = 1;
+
+constexpr const char* kRegistrationTool =
+    "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/"
+    "lsregister";
+constexpr const char* kOpenTool = "/usr/bin/open";
+
+QString Tool(const char* path) {
+    return QString::fromStdString(PlatformToolPath(path));
+}
+
+// Not a plain QProcess: where the system has no room for another process, Qt 5.15 on Linux takes one of
+// its own class for started and waits for it without end.
+class ToolProcess : public QProcess {};
+
+// Runs a tool to its end. Whether it could be started and has succeeded.
+bool RunTool(const QString& tool, const QStringList& arguments) {
+    ToolProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(tool, arguments);
+    return process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
+}
+
+// The leading decimal number of a text, cut to 32 bits; 0 where there is none.
+int32_t LeadingNumber(const std::string& text) {
+    return static_cast<int32_t>(std::strtol(text.c_str(), nullptr, 10));
+}
+
+// Reads the client's process id. False when there is nothing to stop.
+bool ReadPid(const std::string& pid_file, pid_t& pid) {
+    if (!IsFileExist(pid_file, false)) {
+        LOG_MSG(DEBUG, "pid file '%s' does not exist, no need to terminate", pid_file.c_str());
+        return false;
+    }
+    Config config;
+    if (config.read(pid_file) < 0) {
+        LOG_MSG(NOTE, "Failed to read pid file '%s', not exist ?", pid_file.c_str());
+        return false;
+    }
+    const std::string value = config.entries["pid"];
+    if (value.empty()) {
+        return false;
+    }
+    pid = LeadingNumber(value);
+    // Judged after the cut, which may have made 0 or -1 of a large number.
+    if (pid <= 0) {
+        LOG_MSG(NOTE, "pid '%s' in '%s' names no process, nothing to terminate", value.c_str(),
+                pid_file.c_str());
+        return false;
+    }
+    return true;
+}
+
+bool IsGone(pid_t pid) {
+    return kill(pid, 0) != 0 && errno == ESRCH;
+}
+
+void SleepSeconds(unsigned seconds) {
+    while (seconds > 0) {
+        seconds = sleep(seconds);  // A signal that arrives meanwhile ends a sleep early.
+    }
+}
+
+// Asks the process to end. False when it is already gone.
+bool Terminate(pid_t pid) {
+    if (kill(pid, SIGTERM) == 0) {
+        return true;
+    }
+    const int error = errno;
+    if (error == ESRCH) {
+        return false;
+    }
+    LOG_MSG(ERROR, "kill: %s (%d)", std::generic_category().message(error).c_str(), error);
+    return true;
+}
+
+bool WaitUntilGone(pid_t pid) {
+    for (int probe = 0; probe < kStopProbes; ++probe) {
+        if (IsGone(pid)) {
+            return true;
+        }
+        SleepSeconds(kSecondsBetweenProbes);
+    }
+    return false;
+}
+
+}  // namespace
+
+MacService::MacService() {
+    timeout = kDefaultTimeout;
+    user_app_path = RegisteredPath("user_corvimo_app_path").toStdString();
+}
+
+MacService* MacService::GetInstace() {
+    static MacService instance;
+    return &instance;
+}
+
+void MacService::PreUpgrade() {
+    Service::LoadTargetVersion();
+    Service::LoadSourceVersion();
+    LOG_MSG(DEBUG, "Source version: ('%s', '%s')", source_build_version.c_str(),
+            source_icon_overlay_version.c_str());
+    LOG_MSG(DEBUG, "Target version: ('%s', '%s')", target_build_version.c_str(),
+            target_icon_overlay_version.c_str());
+}
+
+bool MacService::IsNeedUpgrade() {
+    const int source = LeadingNumber(source_build_version);
+    const int target = LeadingNumber(target_build_version);
+    LOG_MSG(DEBUG, "source version = %d, target version = %d", source, target);
+    return target > source || !PerUserBinPathExist();
+}
+
+int MacService::HandlePackageUpgrade() {
+    if (PerUserBinPathExist()) {
+        LOG_MSG(DEBUG, "local appdata exist");
+        StopService();
+        return PrepareUserEnv();
+    }
+    const QString old_folder = RegisteredPath("user_lumaport_path");
+    if (IsFileExist(QDir::toNativeSeparators(old_folder).toStdString(), true)) {
+        StopServiceByPath(old_folder);
+        MigrateService();
+    }
+    return PrepareUserEnv();
+}
+
+void MacService::PostUpgrade() {
+    if (LaunchPerUserBin() < 0) {
+        LOG_MSG(ERROR, "Failed to launch Lumaport UI");
+    }
+}
+
+void MacService::StopService() {
+    StopServiceByPath(RegisteredPath("user_corvimo_path"));
+}
+
+void MacService::StopServiceByPath(const QString& folder) {
+    pid_t pid = 0;
+    if (!ReadPid((folder + QLatin1String("/ui.pid")).toStdString(), pid) || !Terminate(pid)) {
+        return;
+    }
+    if (!WaitUntilGone(pid)) {
+        static_cast<void>(kill(pid, SIGKILL));  // The installation goes on whatever comes of it.
+    }
+}
+
+bool MacService::PerUserBinPathExist() {
+    const std::string path = RegisteredPath("user_corvimo_ui_path").toStdString();
+    return access(path.c_str(), F_OK) == 0;
+}
+
+int MacService::LaunchPerUserBin() {
+    const QString bundle = RegisteredPath("user_corvimo_app_path");
+    if (!RunTool(Tool(kRegistrationTool), {QStringLiteral("-u"), bundle})) {
+        LOG_MSG(ERROR, "Cannot unregister bundle, %s", bundle.toStdString().c_str());
+    }
+    const bool started = QProcess::startDetached(
+        Tool(kOpenTool), {QStringLiteral("-n"), QStringLiteral("-a"), bundle});
+    return started ? 0 : -1;
+}
+
+void MacService::LoadSourceVerInfo() {
+    Service::LoadSourceVersion();
+}
+
+void MacService::LoadTargetVerInfo() {
+    Service::LoadTargetVersion();
+}
