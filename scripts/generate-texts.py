@@ -1,0 +1,116 @@
+#!/usr/bin/env python3
+"""Turns the catalogue of user-interface texts into what the build compiles.
+
+generate-texts.py rows CATALOGUE OUT.inc
+    writes one C++ initialiser {"key", "English text"}, per row, in id order.
+generate-texts.py count CATALOGUE OUT.h
+    writes a C++ header that gives the number of rows.
+generate-texts.py ts CATALOGUE OUT.ts [TRANSLATION.ts]
+    writes a Qt Linguist file with exactly one message for each distinct English text. The translations
+    come from TRANSLATION.ts; a text that it lacks stays English and is marked unfinished. A translation
+    of a text that the catalogue no longer has is left out, with a warning if it was finished. Without
+    TRANSLATION.ts every text is its own, finished, translation.
+
+A malformed input is reported with its line; the exit status is then 1 and nothing is written.
+"""
+
+import re
+import sys
+import xml.etree.ElementTree as ElementTree
+from xml.sax.saxutils import escape
+
+ROW = re.compile(r'([A-Za-z]\w*) = "(.*)"', re.ASCII)
+TS_HEAD = """<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="{}" sourcelanguage="en">
+<context>
+    <name>global</name>
+"""
+TS_MESSAGE = """    <message>
+        <source>{}</source>
+        <translation{}>{}</translation>
+    </message>
+"""
+TS_TAIL = "</context>\n</TS>\n"
+
+
+def read_catalogue(path):
+    """The rows as (key, text) in id order."""
+    rows, seen = [], set()
+    with open(path, encoding="utf-8") as lines:
+        for number, line in enumerate(lines, 1):
+            line = line.rstrip("\n")
+            if not line or line.startswith("#"):
+                continue
+            row = ROW.fullmatch(line)
+            if not row:
+                sys.exit(f'{path}:{number}: error: expected: key = "English text"')
+            if re.search(r"\t|\\[nt]", row[2]):
+                sys.exit(f"{path}:{number}: error: a text holds no tab, no \\n and no \\t")
+            if row[1].lower() in seen:
+                sys.exit(f"{path}:{number}: error: the key {row[1]} is already taken")
+            seen.add(row[1].lower())
+            rows.append((row[1], row[2]))
+    return rows
+
+
+def read_translation(path):
+    """The language name of a Linguist file and its messages: English text -> (text, finished)."""
+    try:
+        root = ElementTree.parse(path).getroot()
+    except (ElementTree.ParseError, OSError) as error:
+        sys.exit(f"{path}: error: {error}")
+    messages = {}
+    for message in root.iterfind("context/message"):
+        translation = message.find("translation")
+        if translation is not None and (translation.text or "").strip():
+            finished = translation.get("type") is None
+            messages[message.findtext("source")] = (translation.text, finished)
+    return root.get("language", ""), messages
+
+
+def rows_source(rows):
+    def literal(text):
+        return text.replace("\\", "\\\\").replace('"', '\\"')
+
+    return "".join(f'{{"{key}", "{literal(text)}"}},\n' for key, text in rows)
+
+
+def count_source(rows):
+    return f"#pragma once\n\nconstexpr int kStrTableCount = {len(rows)};\n"
+
+
+def linguist_source(texts, language, messages):
+    def xml(text):
+        return escape(text, {'"': "&quot;", "'": "&apos;"})
+
+    parts = [TS_HEAD.format(language)]
+    for text in texts:
+        translation, finished = messages.get(text, (text, False))
+        state = "" if finished else ' type="unfinished"'
+        parts.append(TS_MESSAGE.format(xml(text), state, xml(translation)))
+    return "".join(parts) + TS_TAIL
+
+
+def translated(rows, path=None):
+    texts = list(dict.fromkeys(text for _, text in rows))
+    if path is None:
+        return linguist_source(texts, "en", {text: (text, True) for text in texts})
+    language, messages = read_translation(path)
+    for text, (_, finished) in messages.items():
+        if finished and text not in texts:
+            print(f"{path}: warning: left out, not in the catalogue: {text}", file=sys.stderr)
+    return linguist_source(texts, language, messages)
+
+
+def main():
+    sources = {"rows": rows_source, "count": count_source, "ts": translated}
+    if len(sys.argv) not in (4, 5) or sys.argv[1] not in sources:
+        sys.exit(__doc__)
+    command, catalogue, out_path, *translation = sys.argv[1:]
+    content = sources[command](read_catalogue(catalogue), *translation)
+    with open(out_path, "w", encoding="utf-8") as out:
+        out.write(content)
+
+
+main()
