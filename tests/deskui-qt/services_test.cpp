@@ -1,0 +1,86 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <tuple>
+
+#include "ArvendelLocale.h"
+#include "DPIinfo.h"
+#include "UIPathManager.h"
+#include "child.h"
+#include "tests/support/temp_dir.h"
+
+namespace {
+
+TEST(UIPathManagerTest, KeepsTheLastPathOfEachKey) {
+    UIPathManager::getInstance()->setPath("Key", "/a");
+    UIPathManager::getInstance()->setPath("Key", "/b//ä/");
+    EXPECT_EQ(UIPathManager::getInstance()->getPath("Key"), "/b//ä/");
+    EXPECT_TRUE(UIPathManager::getInstance()->getPath("key").isEmpty());
+}
+
+TEST(ArvendelLocaleTest, ChoosesTheFirstTranslatedLanguage) {
+    // clang-format off
+    const std::tuple<const char*, const char*> rows[] = {
+        {"", "enu"}, {"xx,C,fr", "fre"}, {"en-DE,de", "enu"}, {"fi,de-AT", "ger"},
+        {"itx,dea", "enu"}, {"-de,,de_DE", "enu"}, {"zh", "chs"}, {"zh-CN", "chs"},
+        {"zh-Hans-HK", "chs"}, {"zh-TW", "cht"}, {"zh-HK", "cht"}, {"zh-MO", "cht"},
+        {"zh-Hant", "cht"}, {"nb", "nor"}, {"nn-NO", "nor"}, {"no-NO", "nor"},
+        {"ZH-HANT-SG", "cht"}, {"pt", "ptb"}, {"pt-Latn-BR", "ptb"}, {"pt-BR-u-ca", "ptb"},
+        {"pt-Latn-AO", "ptg"}, {"cs", "csy"}, {"da", "dan"}, {"fr-CA", "fre"}, {"hu", "hun"},
+        {"it", "ita"}, {"ja", "jpn"}, {"ko", "krn"}, {"nl-BE", "nld"}, {"pl", "plk"}, {"ru", "rus"},
+        {"es-419", "spn"}, {"sv", "sve"}, {"th", "tha"}, {"tr", "trk"},
+    };
+    // clang-format on
+    for (const auto& [languages, code] : rows) {
+        const auto list = QString(languages).split(',');
+        EXPECT_STREQ(qUtf8Printable(ArvendelLocale::codeForLanguages(list)), code) << languages;
+    }
+}
+
+TEST(DPIinfoTest, RoundsTheScaleToQuartersFromOneUpwards) {
+    // clang-format off
+    const std::tuple<double, double, double> rows[] = {
+        {96, 96, 1.0}, {100, 96, 1.0}, {107, 96, 1.0}, {108, 96, 1.25}, {144, 96, 1.5},
+        {480, 96, 5.0}, {72, 96, 1.0}, {144, 72, 2.0}, {std::nan(""), 96, 1.0},
+    };
+    // clang-format on
+    for (const auto& [logical, design, scale] : rows) {
+        EXPECT_EQ(DPIinfo::scaleForResolution(logical, design), scale) << logical;
+    }
+    EXPECT_EQ(DPIinfo::getInstance()->getDPI(), 1.0) << "without a screen";
+}
+
+TEST(DPIinfoTest, ScalesLengthsInPxAndNothingElse) {
+    // clang-format off
+    const std::tuple<double, const char*, const char*> rows[] = {
+        {1.25, "1px 2px 10px -2px;", "1px 3px 13px -3px;"}, {1e10, "9px", "90000000000px"},
+        {2.0, "a{margin:10px 0px -2px .5px}b{top:+3PX}", "a{margin:20px 0px -4px 1px}b{top:6PX}"},
+        {2.0, "10 10pt 10% 10pxx 10pxé", "10 10pt 10% 10pxx 10pxé"}, {1.0, "1.5px", "1.5px"},
+        {2.0, "#10px w10px w-10px é10px .10.5px 10px-a", "#10px w10px w-10px é10px .10.5px 10px-a"},
+        {2.0, "'1px' 1px \"1px\\\" 1px\" 1px '1px", "'1px' 2px \"1px\\\" 1px\" 2px '2px"},
+        {2.0, "/*1px\n'1px*/1px url(a 1px) curl(1px)", "/*1px\n'1px*/2px url(a 1px) curl(2px)"},
+    };
+    // clang-format on
+    for (const auto& [factor, sheet, scaled] : rows) {
+        EXPECT_STREQ(qUtf8Printable(DPIinfo::scaleStyleSheet(sheet, factor)), scaled) << sheet;
+    }
+}
+
+TEST(ServicesTest, FollowTheEnvironment) {
+    // clang-format off
+    const std::tuple<const char*, const char*> rows[] = {
+        {"", "enu 1"}, {"LANG=C.UTF-8", "enu 1"}, {"LANG=zh_HK.UTF-8", "cht 1"},
+        {"LANG=de_DE LC_MESSAGES=it_IT", "ita 1"}, {"LC_MESSAGES=it_IT LC_ALL=no_NO", "nor 1"},
+        {"LANG=en_US.UTF-8 LANGUAGE=xx:fr:de", "fre 1"},
+        {"QT_FONT_DPI=192 QT_ENABLE_HIGHDPI_SCALING=0", "enu 2"},  // Qt 6 would scale by itself.
+    };
+    // clang-format on
+    for (const auto& [variables, answer] : rows) {
+        const TempDir home;
+        Child child(home.path(), QString(variables).split(' '));
+        child.ReadLine();
+        EXPECT_EQ(child.ReadLine(), answer) << variables;
+    }
+}
+
+}  // namespace

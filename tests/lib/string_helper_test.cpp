@@ -1,0 +1,80 @@
+#include "lib/utils/StringHelper.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <tuple>
+#include <vector>
+
+using corvimo::utils::StringHelper;
+
+namespace {
+
+TEST(StringHelper, WellFormedTextIsConverted) {
+    const std::pair<std::string, std::u16string> rows[] = {
+        {"\xC3\xA9\xE6\x97\xA5\xF0\x9F\x98\x80", u"\u00E9\u65E5\U0001F600"},
+        {std::string(5000, 'x') + "\xC3\xA9", std::u16string(5000, u'x') + u"\u00E9"},
+        {std::string(1024, 'x'), std::u16string(1024, u'x')},
+        {std::string(1025, 'x'), std::u16string(1025, u'x')}};
+    for (const auto& [narrow, wide] : rows) {
+        std::string to_narrow = "old";
+        std::u16string to_wide = u"old";
+        const std::string ignored("\0\xFF", 2);
+        EXPECT_EQ(StringHelper::ConvertStringToWstring(narrow + ignored, to_wide), 0);
+        EXPECT_EQ(StringHelper::ConvertWstringToString(wide + u'\0' + u'\xD800', to_narrow), 0);
+        EXPECT_EQ(std::tie(to_narrow, to_wide), std::tie(narrow, wide));
+    }
+}
+
+TEST(StringHelper, IllFormedTextIsRefusedWithAWarning) {
+    for (const char* narrow : {"\x80", "x\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF5\x80\x80"}) {
+        std::u16string wide = u"old";
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(StringHelper::ConvertStringToWstring(narrow, wide), -1);
+        EXPECT_EQ(testing::internal::GetCapturedStderr().find("Warning: u_strFromUTF8: "), 0U);
+        EXPECT_EQ(StringHelper::Normalize(narrow, StringHelper::NFD), "");
+        EXPECT_FALSE(StringHelper::IsValid(narrow));
+        EXPECT_EQ(wide, u"old");
+    }
+    std::string narrow = "old";
+    EXPECT_EQ(StringHelper::ConvertWstringToString(u"x\xD800", narrow), -1);
+    EXPECT_EQ(narrow, "old");
+}
+
+TEST(StringHelper, NormalForms) {
+    const std::string x(3000, 'x');
+    // A text, its composed and its decomposed form.
+    const std::tuple<std::string, std::string, std::string> rows[] = {
+        {std::string("/x\0b", 4), "/x", "/x"},
+        {"/xe\xCC\x81y", "/x\xC3\xA9y", "/xe\xCC\x81y"},
+        {"o\xCC\x82\xCC\xA3", "\xE1\xBB\x99", "o\xCC\xA3\xCC\x82"},
+        {"\xE2\x84\xAB", "\xC3\x85", "A\xCC\x8A"},
+        {"\xE0\xA5\x98", "\xE0\xA4\x95\xE0\xA4\xBC", "\xE0\xA4\x95\xE0\xA4\xBC"},
+        {x + "\xC3\xA9", x + "\xC3\xA9", x + "e\xCC\x81"}};
+    for (const auto& [text, composed, decomposed] : rows) {
+        EXPECT_EQ(StringHelper::Normalize(text, StringHelper::NFC), composed);
+        EXPECT_EQ(StringHelper::Normalize(text, StringHelper::NFD), decomposed);
+    }
+}
+
+TEST(StringHelper, RtrimSplitAndJoin) {
+    const char* const trims[][3] = {{"a  ", " ", "a"}, {"  ", " ", "  "}, {"a/\\/", "/\\", "a"}};
+    for (const auto& [text, set, trimmed] : trims) {
+        std::string trims_to = text;
+        StringHelper::Rtrim(trims_to, set);
+        EXPECT_EQ(trims_to, trimmed);
+    }
+    using Fields = std::vector<std::string>;
+    const std::tuple<const char*, Fields, const char*> splits[] = {{"a,,b", {"a", "", "b"}, "a,,b"},
+                                                                   {"a,b,", {"a", "b"}, "a,b"},
+                                                                   {",", {""}, ""},
+                                                                   {"", {}, ""}};
+    for (const auto& [text, fields, joined] : splits) {
+        Fields split;
+        StringHelper::Split(split, text, ',');
+        EXPECT_EQ(split, fields) << text;
+        EXPECT_EQ(StringHelper::Join(fields, ','), joined);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,47 @@
+// A folder of a test's own.
+#pragma once
+
+#include <stdlib.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+/// Makes a fresh, empty folder under the system's folder for temporary files and removes it with
+/// everything in it at the end. Links inside are removed, never followed; folders that a test has
+/// made unreadable or unwritable go as well. Throws when the folder cannot be made.
+class TempDir {
+public:
+    TempDir()
+        : path_(std::filesystem::canonical(std::filesystem::temp_directory_path()) /
+                "corvimo-test-XXXXXX") {
+        if (mkdtemp(path_.data()) == nullptr) {
+            throw std::system_error(errno, std::generic_category(), path_);
+        }
+    }
+
+    ~TempDir() {
+        namespace fs = std::filesystem;
+        std::error_code ignored;  // A destructor has nobody to tell.
+        const auto add = fs::perm_options::add | fs::perm_options::nofollow;
+        // Each folder is opened up before it is entered.
+        for (fs::recursive_directory_iterator entry(path_, ignored), end; entry != end;) {
+            fs::permissions(entry->path(), fs::perms::owner_all, add, ignored);
+            entry.increment(ignored);
+        }
+        fs::remove_all(path_, ignored);
+    }
+
+    TempDir(const TempDir&) = delete;
+    TempDir& operator=(const TempDir&) = delete;
+
+    /// The folder: absolute, free of links, without a final "/".
+    const std::string& path() const { return path_; }
+
+    /// The path of `name` inside the folder.
+    std::string operator/(const std::string& name) const { return path_ + "/" + name; }
+
+private:
+    std::string path_;
+};
