@@ -16,6 +16,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <signal.h>
+#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -130,6 +131,10 @@ WRAP(DIR*, opendir, "opendir", false, nullptr, (const char* path), (path))
 WRAP(dirent*, readdir, "readdir", false, nullptr, (DIR * stream), (stream))
 WRAP(int, lstat, "lstat", false, -1, (const char* path, struct stat* status), (path, status))
 WRAP(pid_t, fork, "fork", false, -1, (), ())
+WRAP(int, posix_spawn, "fork", false, errno,
+     (pid_t * child, const char* path, const posix_spawn_file_actions_t* actions,
+      const posix_spawnattr_t* attributes, char* const* argv, char* const* variables),
+     (child, path, actions, attributes, argv, variables))
 
 // Qt makes the processes that it waits for without the C library's fork.
 extern "C" long syscall(long call, ...) {

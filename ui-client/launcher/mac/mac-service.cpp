@@ -1,6 +1,7 @@
 #include "mac/mac-service.h"
 
 #include <signal.h>
+#include <spawn.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -8,6 +9,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <system_error>
+#include <vector>
 
 #include "lib/config.h"
 #include "lib/file/file-op.h"
@@ -15,6 +17,8 @@
 #include "lib/platform/platform.h"
 
 #define LOG_SOURCE "mac/mac-service"
+
+extern char** environ;  // No header of macOS declares it.
 
 namespace {
 
@@ -29,10 +33,6 @@ constexpr const char* kRegistrationTool =
     "lsregister";
 constexpr const char* kOpenTool = "/usr/bin/open";
 
-QString Tool(const char* path) {
-    return QString::fromStdString(PlatformToolPath(path));
-}
-
 // Not a plain QProcess: where the system has no room for another process, Qt 5.15 on Linux takes one of
 // its own class for started and waits for it without end.
 class ToolProcess : public QProcess {};
@@ -44,6 +44,32 @@ bool RunTool(const QString& tool, const QStringList& arguments) {
     process.start(tool, arguments);
     return process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit &&
            process.exitCode() == 0;
+}
+
+// Starts a tool in a session of its own and leaves it to itself. Whether it could be started.
+//
+// Not QProcess::startDetached: Qt 5.15 allocates memory in the child between fork and exec, where a
+// lock of the allocator that the dialog's thread held at that moment is never released again.
+bool StartDetached(const std::string& tool, const std::vector<std::string>& arguments) {
+    std::vector<char*> argv = {const_cast<char*>(tool.c_str())};  // Nobody writes to them.
+    for (const std::string& argument : arguments) {
+        argv.push_back(const_cast<char*>(argument.c_str()));
+    }
+    argv.push_back(nullptr);
+    sigset_t ignored_here;
+    static_cast<void>(sigemptyset(&ignored_here));
+    static_cast<void>(sigaddset(&ignored_here, SIGPIPE));
+    posix_spawnattr_t attributes;
+    if (posix_spawnattr_init(&attributes) != 0) {
+        return false;
+    }
+    pid_t pid = 0;
+    const bool started =
+        posix_spawnattr_setsigdefault(&attributes, &ignored_here) == 0 &&
+        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF) == 0 &&
+        posix_spawn(&pid, tool.c_str(), nullptr, &attributes, argv.data(), environ) == 0;
+    static_cast<void>(posix_spawnattr_destroy(&attributes));
+    return started;
 }
 
 // The leading decimal number of a text, cut to 32 bits; 0 where there is none.
@@ -178,11 +204,12 @@ bool MacService::PerUserBinPathExist() {
 
 int MacService::LaunchPerUserBin() {
     const QString bundle = RegisteredPath("user_corvimo_app_path");
-    if (!RunTool(Tool(kRegistrationTool), {QStringLiteral("-u"), bundle})) {
+    const QString tool = QString::fromStdString(PlatformToolPath(kRegistrationTool));
+    if (!RunTool(tool, {QStringLiteral("-u"), bundle})) {
         LOG_MSG(ERROR, "Cannot unregister bundle, %s", bundle.toStdString().c_str());
     }
-    const bool started = QProcess::startDetached(
-        Tool(kOpenTool), {QStringLiteral("-n"), QStringLiteral("-a"), bundle});
+    const bool started =
+        StartDetached(PlatformToolPath(kOpenTool), {"-n", "-a", bundle.toStdString()});
     return started ? 0 : -1;
 }
 
