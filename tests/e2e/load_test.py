@@ -1,0 +1,66 @@
+"""Many launchers, at once and one after another."""
+
+import fcntl
+import os
+import re
+import unittest
+
+from scene import APP, CLIENT, IS_WHOLE, OPEN, TRIES, Scene, describe, main, write
+
+FULL_LOG = 5242880
+
+
+class LoadTest(unittest.TestCase):
+    def test_one_of_many_launchers_installs(self):
+        scene = Scene(self)
+        scene.install_client("100")
+        scene.carry_client("101")
+        write(scene.contents / OPEN, "#!/bin/sh\n", 0o755)
+        # To be stopped first, which takes the second in which all of them start.
+        scene.start_client(scene.home / CLIENT, scene.home / ".Corvimo")
+        launchers = {scene.start() for _ in range(20)}
+        statuses = {}
+        while not launchers <= statuses.keys():
+            process, status = os.wait()
+            statuses[process] = status
+        self.assertEqual({0}, {statuses[launcher] for launcher in launchers})
+        self.assertNotIn(None, scene.log())  # No record is torn.
+        ready = "INFO cloud-service: user installation is ready, removing backup app"
+        self.assertEqual(1, scene.messages().count(ready))
+        installed = describe(scene.home / APP / "Contents/Resources/größe.txt")
+        self.assertEqual((0o644, b"101"), installed)
+
+    def test_runs_without_upgrade_leave_nothing_behind(self):
+        scene = Scene(self)
+        scene.install_client("100")
+        scene.carry_client("100")
+        descriptors = 'ls -l /proc/$$/fd >>"$HOME/.Corvimo/log/descriptors"\n'
+        write(scene.contents / OPEN, "#!/bin/sh\n" + descriptors, 0o755)
+        folders = scene.home, scene.home / ".Corvimo", scene.folder / "tmp"
+        folders[-1].mkdir(mode=0o700)
+        scene.environment |= {"TMPDIR": str(folders[-1]), "XDG_RUNTIME_DIR": str(folders[-1])}
+        self.assertEqual(0, scene.run())
+        before = [set(os.listdir(folder)) for folder in folders]
+        logs = scene.home / ".Corvimo/log"
+        write(logs / "launcher.log", "\n" * FULL_LOG)
+        for age in range(49):
+            write(logs / f"launcher.log_{age}", "")
+        count = 1000 if IS_WHOLE else 7 * TRIES
+        for _ in range(count):
+            self.assertEqual(0, scene.run())
+        with self.assertRaises(ChildProcessError):  # What a run left behind would be our child.
+            while True:
+                os.wait()
+        self.assertEqual(before, [set(os.listdir(folder)) for folder in folders])
+        with open(scene.home / ".Corvimo/launcher.lock") as lock:
+            fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        self.assertEqual(50 + len({"descriptors"}), len(os.listdir(logs)))
+        self.assertNotEqual(b"", describe(logs / "launcher.log_0")[1].strip(), "no rotation")
+        # The launcher's lock, log, wake-ups and package, as the program that it starts shows them.
+        inherited = re.compile(r"-> \S*(launcher\.|eventfd|\.cpk)")
+        self.assertIsNone(inherited.search((logs / "descriptors").read_text()))
+        print(f"figure: runs without upgrade: {count} of {count}")
+
+
+if __name__ == "__main__":
+    main()
