@@ -6,12 +6,26 @@ import subprocess
 import time
 import unittest
 
-from scene import APP, CLIENT, OPEN, REGISTER, Scene, describe, main, mount_volume, snapshot, write
+from scene import APP, CLIENT, OPEN, REGISTER, Scene, main, mount_volume, snapshot, write
 
 STACK_BYTES = 256 << 10
 LONG_PATH = 4000
-# Support's tools find the records of two sources by their line. The lines of the others may change.
-NUMBERED = "main", "launcher"
+NOBODY = 65534
+BINARY = b"\x7fELF\0\xff\n=\0"
+
+HOLD = """\
+#!/bin/sh
+touch "$HOME/held"
+while [ -e "$HOME/held" ]; do sleep 0.05; done
+"""
+
+# Notes what it is started with where a client notes its build: the open descriptors, and which of the
+# first 16 signals are ignored (of the last ones the C library uses some itself).
+RECORDER = r"""#!/bin/sh
+signals=$(sed -n 's/^SigIgn:.*\(....\)$/\1/p' /proc/$$/status)
+echo $(ls /proc/self/fd) $signals $$ >>"$HOME/started"
+"""
+
 ROAD = """\
 INFO main(106): >>> user_lumaport_path = {home}/.Lumaport
 INFO main(107): >>> user_lumaport_app_path = {unset}
@@ -34,8 +48,6 @@ INFO cloud-service: user installation is ready, removing backup app
 INFO cloud-service: removing aged app folder {home}/.Lumaport/app
 DEBUG launcher(117): done
 """
-BINARY = b"\x7fELF\0\xff\n=\0"
-NOBODY = 65534
 
 
 def is_running(process):
@@ -47,30 +59,30 @@ def is_running(process):
 
 
 class LauncherTest(unittest.TestCase):
+    # A machine with a client of build 100 and a launcher that carries build 101.
     def upgrade(self, **options):
-        """A machine with a client of build 100 and a launcher that carries build 101."""
         scene = Scene(self, **options)
         scene.install_client("100")
-        scene.carry_client("101")
+        scene.tree = scene.carry_client("101")
         return scene
 
-    def check_installed(self, scene):
-        tree = snapshot(scene.home / APP)
-        self.assertEqual(9, len(tree))
-        self.assertEqual(0o755, tree["Contents/MacOS/corvimo-ui"][0])
-        self.assertEqual((0o644, b"101"), tree["Contents/Resources/größe.txt"])
-        self.assertEqual("Resources", tree["Contents/current"])
-        self.assertEqual("dir", tree["Contents/empty"])
-        self.assertEqual([], scene.backups())
+    def check_run(self, scene, *builds, **variables):
+        self.assertEqual(0, scene.run(**variables))
+        scene.check_started(*builds)
 
+    # The package is installed, nothing is left over, and the person's data is there.
+    def check_installed(self, scene, data):
+        self.assertEqual(scene.tree, snapshot(scene.home / APP))
+        self.assertEqual([], scene.backups())
+        self.assertEqual("the person's data", (scene.home / ".Corvimo/data" / data).read_text())
+
+    # Runs a launcher whose package cannot be installed over the client of build 100.
     def check_restored(self, scene):
-        """Runs a launcher whose package cannot be installed over the client of build 100."""
         before = snapshot(scene.home / APP)
-        self.assertEqual(0, scene.run())
-        self.assertEqual(["100"], scene.started_builds(1))
+        self.check_run(scene, "100")
         self.assertEqual(before, snapshot(scene.home / APP))
         self.assertEqual([], scene.backups())
-        self.assertIn("ERROR launcher: Failed to upgrade package", scene.messages())
+        self.assertIn("ERROR launcher(101): Failed to upgrade package", scene.log())
 
     def test_upgrades_a_running_client_whatever_the_home_is_called(self):
         for home, link, language in (
@@ -81,56 +93,42 @@ class LauncherTest(unittest.TestCase):
         ):
             with self.subTest(home, link=link):
                 scene = self.upgrade(home=home, home_link=link)
-                old_client = scene.start_client(scene.home / CLIENT, scene.home / ".Corvimo")
-                self.assertEqual(0, scene.run(LANG=language))
+                old_client = scene.start(scene.home / CLIENT)
+                scene.check_started("100")
+                self.check_run(scene, "100", "101", LANG=language)
                 self.assertFalse(is_running(old_client))
-                self.assertEqual(["100", "101"], scene.started_builds(2))
-                self.check_installed(scene)
-                self.assertEqual(
-                    (0o644, b"the person's data"), describe(scene.home / ".Corvimo/data/file")
-                )
+                self.check_installed(scene, "file")
 
     def test_logs_the_road_of_an_upgrade(self):
         scene = self.upgrade()
-        self.assertEqual(0, scene.run())
-        self.assertEqual(["101"], scene.started_builds(1))
-        found = "".join(
-            f"{level} {source}{line if source in NUMBERED else ''}: {message}\n"
-            for level, source, line, message in scene.log()
-        )
-        road = ROAD.format(unset="", **vars(scene))
-        self.assertEqual(road, found)
+        self.check_run(scene, "101")
+        road = ROAD.format(unset="", **vars(scene)).splitlines()
+        self.assertEqual(road, scene.log())
 
     def test_installs_for_the_first_time_and_then_only_what_is_newer(self):
         scene = Scene(self)
-        scene.carry_client("101")
-        self.assertEqual(0, scene.run())
-        self.assertEqual(["101"], scene.started_builds(1))
-        self.check_installed(scene)
-        before = snapshot(scene.home / APP)
+        tree = scene.carry_client("101")
+        self.check_run(scene, "101")
         for starts, carried in enumerate(("101", "100", ""), start=2):
             with self.subTest(carried):
+                self.assertEqual(tree, snapshot(scene.home / APP))
                 scene.carry_client(carried)
-                self.assertEqual(0, scene.run())
-                self.assertEqual(["101"] * starts, scene.started_builds(starts))
-                self.assertEqual(before, snapshot(scene.home / APP))
-                self.assertIn("DEBUG launcher: no need to upgrade", scene.messages())
+                self.check_run(scene, *["101"] * starts)
+                self.assertIn("DEBUG launcher(94): no need to upgrade", scene.log())
+        self.assertEqual(tree, snapshot(scene.home / APP))
 
     def test_takes_over_from_the_older_product(self):
         scene = Scene(self)
-        scene.carry_client("101")
+        scene.tree = scene.carry_client("101")
         write(scene.home / ".Lumaport/data/deep/file", "the person's data")
         write(scene.home / ".Lumaport/app/x", "")
         older = Scene(self)
         older.install_client("9")
-        old_client = scene.start_client(older.home / CLIENT, scene.home / ".Lumaport")
-        self.assertEqual(0, scene.run())
+        old_client = scene.start(older.home / CLIENT, PID_FOLDER=str(scene.home / ".Lumaport"))
+        scene.check_started("9")
+        self.check_run(scene, "9", "101")
         self.assertFalse(is_running(old_client))
-        self.assertEqual(["9", "101"], scene.started_builds(2))
-        self.check_installed(scene)
-        self.assertEqual(
-            (0o644, b"the person's data"), describe(scene.home / ".Corvimo/data/deep/file")
-        )
+        self.check_installed(scene, "deep/file")
         self.assertFalse((scene.home / ".Lumaport").exists())
 
     def test_restores_the_old_client_when_the_package_is_bad(self):
@@ -161,58 +159,46 @@ class LauncherTest(unittest.TestCase):
             write(scene.home / APP / "Contents/Resources/INFO", content)
             write(scene.home / ".Corvimo/ui.pid", content)
             write(scene.contents / "Resources/log/launcher.debug", content)
-            self.assertEqual(0, scene.run())
-            self.assertEqual(["101"], scene.started_builds(1))
+            self.check_run(scene, "101")
             write(scene.contents / "Resources/INFO", content)
-            self.assertEqual(0, scene.run())
-            self.assertEqual(["101", "101"], scene.started_builds(2))
+            self.check_run(scene, "101", "101")
 
     def test_runs_to_its_end_where_nothing_can_be_written(self):
         scene = Scene(self)
         scene.carry_client("101")
         write(scene.home / ".Corvimo", "a plain file")
-        self.assertEqual(0, scene.run())
-        self.assertEqual((0o644, b"a plain file"), describe(scene.home / ".Corvimo"))
+        self.check_run(scene)
+        self.assertEqual("a plain file", (scene.home / ".Corvimo").read_text())
 
         scene = self.upgrade()
         write(scene.home / "started", "", 0o666)
         before = snapshot(scene.home / ".Corvimo")
         # The home folder and the bundle are root's.
-        subprocess.run(
-            [scene.contents / "MacOS/launcher"], env=scene.environment, user=NOBODY, check=True
-        )
-        self.assertEqual(["100"], scene.started_builds(1))
+        command = [scene.contents / "MacOS/launcher"]
+        subprocess.run(command, env=scene.environment, user=NOBODY, check=True)
+        scene.check_started("100")
         self.assertEqual(before, snapshot(scene.home / ".Corvimo"))
 
     def test_leaves_at_once_while_another_runs(self):
         scene = self.upgrade()
         held = scene.home / "held"
-        hold = '#!/bin/sh\ntouch "$HOME/held"\nwhile [ -e "$HOME/held" ]; do sleep 0.05; done\n'
-        write(scene.contents / REGISTER, hold, 0o755)
+        write(scene.contents / REGISTER, HOLD, 0o755)
         first = scene.start()
         while not held.exists():
             time.sleep(0.01)
-        self.assertEqual(0, scene.run())
-        already = "DEBUG", "main", "(154)", "app has already launched, return"
-        self.assertEqual(already, scene.log()[-1])
+        self.check_run(scene)
+        self.assertEqual("DEBUG main(154): app has already launched, return", scene.log()[-1])
         held.unlink()
         self.assertEqual(0, scene.wait_for(first))
-        self.assertEqual(["101"], scene.started_builds(1))
+        scene.check_started("101")
 
     def test_keeps_its_descriptors_and_signals_from_the_programs_that_it_starts(self):
-        # Notes what it is started with where a client notes its build: open descriptors, and which
-        # of the first 16 signals are ignored (of the last ones the C library uses some itself).
-        recorder = """#!/bin/sh
-signals=$(sed -n 's/^SigIgn:.*\\(....\\)$/\\1/p' /proc/$$/status)
-echo $(ls /proc/self/fd) $signals $$ >>"$HOME/started"
-"""
         scene = self.upgrade()
         for tool in (REGISTER, OPEN):
-            write(scene.contents / tool, recorder, 0o755)
-        scene.wait_for(scene.start(scene.contents / OPEN))
-        self.assertEqual(0, scene.run())
-        by_hand, *by_launcher = scene.started_builds(3)
-        self.assertEqual([by_hand] * 2, by_launcher)
+            write(scene.contents / tool, RECORDER, 0o755)
+        scene.wait_for(scene.start(OPEN))
+        ((by_hand, _),) = scene.started()
+        self.check_run(scene, *[by_hand] * 3)
 
     def test_removes_a_deep_old_client_whatever_the_limit_on_stacks(self):
         scene = self.upgrade()
@@ -223,8 +209,8 @@ echo $(ls /proc/self/fd) $signals $$ >>"$HOME/started"
         limit = resource.getrlimit(resource.RLIMIT_STACK)
         resource.setrlimit(resource.RLIMIT_STACK, (STACK_BYTES, limit[1]))
         self.addCleanup(resource.setrlimit, resource.RLIMIT_STACK, limit)
-        self.assertEqual(0, scene.run())
-        self.check_installed(scene)
+        self.check_run(scene, "101")
+        self.check_installed(scene, "file")
 
 
 if __name__ == "__main__":
