@@ -1,9 +1,23 @@
 #pragma once
 
-#include <string>
+#include <sys/stat.h>
 
-#include "tests/support/archive_builder.h"
+#include <string>
+#include <vector>
+
 #include "tests/support/temp_dir.h"
+
+constexpr unsigned kFolder = S_IFDIR | 0755;
+constexpr unsigned kExecutable = S_IFREG | 0755;
+constexpr unsigned kSymbolicLink = S_IFLNK | 0777;
+constexpr unsigned kHardLink = S_IFREG;  // No file here is one that nobody may read.
+
+/// One entry of a package.
+struct Entry {
+    std::string name;
+    std::string content;  ///< Or a link's target.
+    unsigned mode = S_IFREG | 0644;
+};
 
 /// A home folder and launcher resources of a test's own, entered in the path registry.
 struct PrivateHome {
@@ -12,11 +26,11 @@ struct PrivateHome {
     /// The path of a name in the home folder.
     std::string operator/(const std::string& name) const { return folder / ("home/" + name); }
 
-    /// Installs a client of the given build: an executable, an INFO and a link.
-    void InstallClient(const std::string& build) const;
+    /// Installs a client that is nothing but its executable.
+    void InstallClient() const;
 
-    /// Begins the launcher's package; what it holds is up to the test.
-    ArchiveBuilder Package(ArchiveBuilder::Format format = ArchiveBuilder::ZIP) const;
+    /// Writes the launcher's package in the format that a file's suffix stands for.
+    void Pack(const std::vector<Entry>& entries, const std::string& suffix = ".zip") const;
 
     const TempDir folder;
     const std::string package;  ///< The path of the launcher's package.

@@ -9,8 +9,8 @@
 #include <system_error>
 
 /// Makes a fresh, empty folder under the system's folder for temporary files and removes it with
-/// everything in it at the end. Links inside are removed, never followed; folders that a test has
-/// made unreadable or unwritable go as well. Throws when the folder cannot be made.
+/// everything in it at the end. Links inside are removed, never followed. Throws when the folder
+/// cannot be made.
 class TempDir {
 public:
     TempDir()
@@ -22,15 +22,8 @@ public:
     }
 
     ~TempDir() {
-        namespace fs = std::filesystem;
         std::error_code ignored;  // A destructor has nobody to tell.
-        const auto add = fs::perm_options::add | fs::perm_options::nofollow;
-        // Each folder is opened up before it is entered.
-        for (fs::recursive_directory_iterator entry(path_, ignored), end; entry != end;) {
-            fs::permissions(entry->path(), fs::perms::owner_all, add, ignored);
-            entry.increment(ignored);
-        }
-        fs::remove_all(path_, ignored);
+        std::filesystem::remove_all(path_, ignored);
     }
 
     TempDir(const TempDir&) = delete;

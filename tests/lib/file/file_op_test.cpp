@@ -13,7 +13,6 @@
 #include "tests/support/few_descriptors.h"
 #include "tests/support/files.h"
 #include "tests/support/temp_dir.h"
-#include "tests/support/tree.h"
 
 namespace fs = std::filesystem;
 

@@ -1,27 +1,23 @@
+// What is made of a package, and what a hostile one cannot do.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <functional>
 
 #include "lib/file/file-op.h"
 #include "mac/mac-service.h"
 #include "tests/support/captured_log.h"
 #include "tests/support/few_descriptors.h"
-#include "tests/support/files.h"
 #include "tests/support/private_home.h"
-#include "tests/support/tree.h"
 
-using Format = ArchiveBuilder::Format;
+namespace fs = std::filesystem;
 
 namespace {
 
-using Formats = std::vector<Format>;
-using Add = std::function<void(ArchiveBuilder&)>;
+using Formats = std::vector<std::string>;
 
-const Formats kAll = {ArchiveBuilder::ZIP, ArchiveBuilder::TAR, ArchiveBuilder::SEVEN_ZIP};
-const Formats kZip = {ArchiveBuilder::ZIP};
-const Formats kTar = {ArchiveBuilder::TAR};
+const Formats kAll = {".zip", ".tar", ".7z"};
 
 std::string Levels(int count) {
     return QStringLiteral("d/").repeated(count).toStdString();
@@ -33,7 +29,7 @@ struct HostilePackage : testing::Test {
         WriteDeep(home / ".Corvimo/data/file", "data");
         WriteFile(home / "outside", "untouched");
         around = Snapshot(home / ".");
-        home.InstallClient("100");
+        home.InstallClient();
         before = Snapshot(home / ".");
     }
 
@@ -45,7 +41,7 @@ struct HostilePackage : testing::Test {
             look();
             EXPECT_EQ(0, FSRemove(home.app, false));
             EXPECT_EQ(around, Snapshot(home / "."));
-            home.InstallClient("100");
+            home.InstallClient();
         }
         EXPECT_EQ(before, Snapshot(home / "."));
         return result;
@@ -68,37 +64,54 @@ std::ptrdiff_t CountDamaged(const TreeSnapshot& whole, const TreeSnapshot& other
 
 }  // namespace
 
+TEST(Package, IsUnpackedOverWhatIsInTheWayButNotOverTheWay) {
+    const PrivateHome home;
+    fs::create_directory_symlink("way", home / ".Corvimo");
+    WriteDeep(home / "way/Corvimo.app/file", "old and longer");
+    fs::create_symlink("file", home / "way/Corvimo.app/run");
+    for (const char* const format : {".zip", ".tar", ".tar.gz", ".7z"}) {
+        home.Pack({{"file", "new"}, {"run", "", kExecutable}, {"link", "file", kSymbolicLink}},
+                  format);
+        EXPECT_EQ(0, MacService().ExtractPackage()) << format;
+        EXPECT_EQ(
+            (TreeSnapshot{{"file", "file 644 new"}, {"link", "link file"}, {"run", "file 755 "}}),
+            Snapshot(home.app));
+    }
+    home.Pack({{"file", "x"}, {"second", "file", kHardLink}}, ".tar");
+    EXPECT_EQ(0, MacService().ExtractPackage());
+    EXPECT_EQ("x", ReadFile(home.app + "/second"));
+    EXPECT_TRUE(fs::is_symlink(home / ".Corvimo"));
+}
+
 TEST_F(HostilePackage, InstallsWholeOrLeavesTheOldClient) {
     const std::string up = "../../outside";
     // clang-format off
-    const struct { const char* name; int result; Formats formats; Add add; } rows[] = {
-        {"no entries", -1, kAll, [](auto&) {}},
-        {"upwards", -1, kAll, [](auto& p) { p.File("a/../../../outside", "x"); }},
-        {"absolute", 0, kAll, [&](auto& p) { p.File(home / "outside", "x"); }},
-        {"over a link", 0, kAll, [&](auto& p) { p.SymbolicLink("l", up).File("l", "x"); }},
-        {"through a link", 0, kAll, [](auto& p) { p.SymbolicLink("l", ".").File("l/f", "x"); }},
-        {"hard link upwards", -1, kTar, [&](auto& p) { p.HardLink("l", up).File("l", "x"); }},
-        {"absolute hard link", -1, kTar, [&](auto& p) { p.HardLink("l", home / "outside"); }},
-        {"two links", -1, kTar, [&](auto& p) { p.SymbolicLink("l", up).HardLink("h", "l/."); }},
-        {"fifo", 0, kTar, [](auto& p) { p.Special("fifo", S_IFIFO); }},
-        {"device", 0, kTar, [](auto& p) { p.Special("device", S_IFCHR); }},
-        {"name too long", -1, kAll, [](auto& p) { p.File(std::string(5000, 'n'), "x"); }},
-        {"2,000 levels", 0, kAll, [](auto& p) { p.File(Levels(2000) + "f", ""); }},
-        {"10,000 levels", -1, kAll, [](auto& p) { p.Folder("a/").File(Levels(10000), ""); }},
-        {"not UTF-8", 0, kTar, [](auto& p) { p.File("a\xFF", "x"); }},
-        {"not its UTF-8", -1, kZip, [](auto& p) { p.File("a", "").File("\xFF", ""); }},
-        {"one name twice", 0, kAll, [](auto& p) { p.File("a", "1").File("a", "2"); }},
-        {"file over folder", -1, kAll, [](auto& p) { p.File("a/b", "1").File("a", "2"); }},
-        {"folder over file", -1, kAll, [](auto& p) { p.File("a", "1").File("a/b", "2"); }},
-        {"the bundle itself", 0, kAll, [](auto& p) { p.File(".", "x"); }},
+    const struct { std::string name; int result; Formats formats; std::vector<Entry> entries; } rows[] = {
+        {"no entries", -1, kAll, {}},
+        {"upwards", -1, kAll, {{"a/../../../outside", "x"}}},
+        {"absolute", 0, kAll, {{home / "outside", "x"}}},
+        {"over a link", 0, kAll, {{"l", up, kSymbolicLink}, {"l", "x"}}},
+        {"through a link", 0, kAll, {{"l", ".", kSymbolicLink}, {"l/f", "x"}}},
+        {"hard link upwards", -1, {".tar"}, {{"l", up, kHardLink}, {"l", "x"}}},
+        {"absolute hard link", -1, {".tar"}, {{"l", home / "outside", kHardLink}}},
+        {"two links", -1, {".tar"}, {{"l", up, kSymbolicLink}, {"h", "l/.", kHardLink}}},
+        {"fifo", 0, {".tar"}, {{"fifo", "", S_IFIFO | 0644}}},
+        {"device", 0, {".tar"}, {{"device", "", S_IFCHR | 0644}}},
+        {"name too long", -1, kAll, {{std::string(5000, 'n'), "x"}}},
+        {"2,000 levels", 0, kAll, {{Levels(2000) + "f", ""}}},
+        {"10,000 levels", -1, kAll, {{"a/", "", kFolder}, {Levels(10000), ""}}},
+        {"not UTF-8", 0, {".tar"}, {{"a\xFF", "x"}}},
+        {"not its UTF-8", -1, {".zip"}, {{"a", ""}, {"\xFF", ""}}},
+        {"one name twice", 0, kAll, {{"a", "1"}, {"a", "2"}}},
+        {"file over folder", -1, kAll, {{"a/b", "1"}, {"a", "2"}}},
+        {"folder over file", -1, kAll, {{"a", "1"}, {"a/b", "2"}}},
+        {"the bundle itself", 0, kAll, {{".", "x"}}},
     };
     // clang-format on
     for (const auto& row : rows) {
-        for (const Format format : row.formats) {
-            SCOPED_TRACE(row.name + std::to_string(format));
-            ArchiveBuilder package = home.Package(format);
-            row.add(package);
-            package.Finish();
+        for (const std::string& format : row.formats) {
+            SCOPED_TRACE(row.name + format);
+            home.Pack(row.entries, format);
             EXPECT_EQ(row.result, Install());
         }
     }
@@ -106,19 +119,21 @@ TEST_F(HostilePackage, InstallsWholeOrLeavesTheOldClient) {
 
 // Only a 7-Zip archive has checksums over everything: in a tar a content, in a zip a name or a mode may
 // change unnoticed. That is one entry for one byte (and one more where a name becomes another's), and none
-// for a cut.
+// for a cut, none of which falls between two entries of the tar.
 TEST_F(HostilePackage, DamagedAnywhere) {
-    for (const Format format : kAll) {
-        ArchiveBuilder package = home.Package(format);
-        for (char name = 'a'; name < 'h'; ++name) {
-            package.File(std::string("folder/") + name, std::string(700, name));
-        }
-        package.SymbolicLink("link", "folder/a").File("run", "client 101", 0755).Finish();
+    std::vector<Entry> entries;
+    for (char name = 'a'; name < 'h'; ++name) {
+        entries.push_back({std::string("folder/") + name, std::string(700, name)});
+    }
+    entries.push_back({"link", "folder/a", kSymbolicLink});
+    entries.push_back({"run", "client 101", kExecutable});
+    for (const std::string& format : kAll) {
+        home.Pack(entries, format);
         TreeSnapshot whole;
         ASSERT_EQ(0, Install([&] { whole = Snapshot(home.app); }));
         const std::string good = ReadFile(home.package);
         for (std::size_t i = 0; i < 250; ++i) {
-            SCOPED_TRACE(std::to_string(format) + " " + std::to_string(i));
+            SCOPED_TRACE(format + " " + std::to_string(i));
             std::string bad = good;
             if (i < 50) {
                 bad.resize(good.size() * i / 50);
@@ -126,7 +141,7 @@ TEST_F(HostilePackage, DamagedAnywhere) {
                 bad[good.size() * (i - 50) / 200] ^= 0x10;
             }
             WriteFile(home.package, bad);
-            const int tolerated = i < 50 || format == ArchiveBuilder::SEVEN_ZIP ? 0 : 1;
+            const int tolerated = i < 50 || format == ".7z" ? 0 : 1;
             Install([&] { EXPECT_GE(tolerated, CountDamaged(whole, Snapshot(home.app))); });
         }
     }
@@ -135,18 +150,24 @@ TEST_F(HostilePackage, DamagedAnywhere) {
 // The last folders lie deeper than a path reaches: the link has been the way to them.
 TEST_F(HostilePackage, WhatIsTooDeepToRemoveLeavesTheOldClientUnderABackupName) {
     const TreeSnapshot old = Snapshot(home.app);
-    ArchiveBuilder package = home.Package(ArchiveBuilder::TAR);
-    package.Folder(Levels(1900)).SymbolicLink("way", Levels(1900)).Folder("way/" + Levels(300));
-    package.File("../outside", "x").Finish();
+    home.Pack({{Levels(1900), "", kFolder},
+               {"way", Levels(1900), kSymbolicLink},
+               {"way/" + Levels(300), "", kFolder},
+               {"../outside", "x"}},
+              ".tar");
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
     EXPECT_EQ(old, Snapshot(home.app + "_tmp"));
     EXPECT_EQ(0, FSRemove(home.app + "/way/d", false));
 }
 
 TEST_F(HostilePackage, WhatItMakesCanBeCopiedHoweverDeep) {
+    const std::string file = Levels(2000) + "f";
     ASSERT_EQ(0, FSMKDir(home / "from/" + Levels(2000), true));
+    WriteFile(home / "from/" + file, "content");
     EXPECT_EQ(0, MacService().FSCopyPath(home / "from", home / "to"));
-    EXPECT_EQ(0, FSRemove(home / "from", false));
-    EXPECT_TRUE(IsFileExist(home / "to/" + Levels(2000), false));
+    EXPECT_EQ("content", ReadFile(home / "to/" + file));
     EXPECT_EQ(0, FSRemove(home / "to", false));
+    EXPECT_EQ(0, FSRemove(home / "from/d/d", false));
+    fs::create_symlink("nowhere", home / "from/d/link");
+    EXPECT_EQ(-1, MacService().FSCopyPath(home / "from", home / "to"));
 }

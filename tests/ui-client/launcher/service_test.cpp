@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
+#include <signal.h>
 
+#include <cerrno>
 #include <filesystem>
 
 #include "UIPathManager.h"
 #include "mac/mac-service.h"
 #include "tests/support/captured_log.h"
-#include "tests/support/files.h"
 #include "tests/support/private_home.h"
-#include "tests/support/tree.h"
 
 namespace fs = std::filesystem;
 
@@ -15,107 +15,102 @@ namespace {
 
 const std::string kError = "ERROR cloud-service: ";
 
-// Shows the versions and records the order of the steps in place of taking them.
-struct ProbedService : MacService {
-    using Service::source_build_version;
-    using Service::source_minor_version;
-    using Service::target_build_version;
-
-    void StopService() override { steps += "stop "; }
-    void MigrateService() override { steps += "migrate "; }
-    int PrepareUserEnv() override {
-        steps += "install";
-        return 7;
-    }
-
-    std::string steps;
-};
+// The one process that there is for the code under test.
+struct {
+    int error_while_alive = ESRCH;
+    int probes_alive = 0;
+    std::string calls;  // "PID:SIGNAL " and "sleep:SECONDS ".
+} process;
 
 }  // namespace
 
-TEST(Versions, AreReadFromTheVersionGroupAlone) {
-    const PrivateHome home;
-    WriteDeep(home.app + "/Contents/Resources/INFO",
-              "build_version=9\n[Other]\nminor_version=8\n[Version]\nmajor_version = 1\n"
-              "build_version=100\nicon_overlay_version=\"a b\"\n");
-    ProbedService service;
-    service.source_minor_version = "kept";
-    const CapturedLog log(Logger::INFO);
-    service.PreUpgrade();
-    EXPECT_EQ((Records{"INFO cloud-service: target_version = (, , , )",
-                       "INFO cloud-service: source_version = (1, kept, 100, a b)"}),
-              log.All());
+// They take the place of the system's: no signal leaves this program, and no time passes in it.
+extern "C" int kill(pid_t pid, int signal) noexcept {
+    process.calls += std::to_string(pid) + ":" + std::to_string(signal) + " ";
+    errno = signal == SIGTERM || process.probes_alive-- > 0 ? process.error_while_alive : ESRCH;
+    return errno == 0 ? 0 : -1;
 }
 
-TEST(IsNeedUpgrade, ComparesBuildNumbersAsIntegers) {
+extern "C" unsigned sleep(unsigned seconds) {
+    process.calls += "sleep:" + std::to_string(seconds) + " ";
+    return 0;
+}
+
+TEST(StopService, FollowsTheAnswersOfTheSystem) {
     // clang-format off
-    const struct { const char *source, *target; bool has_client, expected; } rows[] = {
-        {"100", "101", true, true},  {"101", "101", true, false}, {"102", "101", true, false},
-        {"99", "101", true, true},   {"", "1", true, true},       {"", "", true, false},
-        {"12a", "12", true, false},  {"x", "0", true, false},     {" -5", "-4", true, true},
-        {"101", "101", false, true}, {"102", "101", false, true}, {"4294967296", "1", true, true},
+    const struct { int error, probes_alive; std::string last_call; Records records; } rows[] = {
+        {ESRCH,  0, "",       {}},
+        {0,      2, "812:0 ", {}},
+        {0,     15, "812:9 ", {}},
+        {EPERM, 15, "812:9 ", {"ERROR mac/mac-service: kill: Operation not permitted (1)"}},
     };
     // clang-format on
+    const PrivateHome home;
+    WriteDeep(home / ".Corvimo/ui.pid", "# client\npid = 812\nother=1\n");
     for (const auto& row : rows) {
-        const PrivateHome home;
-        WriteDeep(home.app + "/Contents/MacOS/" + (row.has_client ? "corvimo-ui" : "other"), "");
-        ProbedService service;
-        service.source_build_version = row.source;
-        service.target_build_version = row.target;
-        EXPECT_EQ(row.expected, service.IsNeedUpgrade()) << row.source << " -> " << row.target;
+        process = {row.error, row.probes_alive, ""};
+        const CapturedLog log;
+        MacService().StopService();
+        const QString probes = QStringLiteral("812:0 sleep:1 ").repeated(row.probes_alive);
+        EXPECT_EQ("812:15 " + probes.toStdString() + row.last_call, process.calls);
+        EXPECT_EQ(row.records, log.All());
     }
 }
 
-TEST(HandlePackageUpgrade, TakesTheStepsOfTheSituation) {
-    // clang-format off
-    const struct { const char *client, *old_product, *steps; } rows[] = {
-        {"Contents/MacOS/corvimo-ui", "none",      "stop install"},
-        {"Contents/MacOS/corvimo-ui", ".Lumaport", "stop install"},
-        {"none",                      "none",      "install"},
-        {"none",                      ".Lumaport", "migrate install"},
-    };
-    // clang-format on
-    for (const auto& row : rows) {
-        const PrivateHome home;
-        WriteDeep(home.app + "/" + row.client, "");
-        fs::create_directory(home / row.old_product);
-        ProbedService service;
-        EXPECT_EQ(7, service.HandlePackageUpgrade());
-        EXPECT_EQ(row.steps, service.steps);
+TEST(StopService, SignalsNobodyWithoutOneProcess) {
+    const PrivateHome home;
+    const std::string path = home / ".Lumaport/ui.pid";
+    for (const std::string value : {"abc", "0", "-812", "4294967296", "4294967295"}) {
+        WriteDeep(path, "pid=" + value);
+        process = {};
+        const CapturedLog log;
+        MacService().StopServiceByPath(QString::fromStdString(home / ".Lumaport"));
+        EXPECT_EQ("", process.calls) << value;
+        EXPECT_EQ(Records{"NOTE mac/mac-service: pid '" + value + "' in '" + path +
+                          "' names no process, nothing to terminate"},
+                  log.All());
     }
 }
 
-TEST(PrepareUserEnv, ReplacesTheOldBundleAndClearsLeftovers) {
+TEST(IsNeedUpgrade, ComparesTheBuildNumbersOfTheVersionGroups) {
+    const std::tuple<std::string, std::string, bool> rows[] = {
+        {"99", "101", true}, {"", "", false},    {"12a", "12", false},
+        {"x", "0", false},   {"-5", "-4", true}, {"4294967296", "1", true}};
     const PrivateHome home;
-    home.InstallClient("100");
-    home.Package().File("new", "101").Finish();
-    WriteDeep(home.app + "_tmp/leftover", "");
-    WriteDeep(home.app + "_tmp3/leftover", "");
-    EXPECT_EQ(0, MacService().PrepareUserEnv());
-    EXPECT_EQ((TreeSnapshot{{"new", "file 644 101"}}), Snapshot(home.app));
-    EXPECT_EQ((Records{"Corvimo.app", "Corvimo.app_tmp3"}), NamesIn(home / ".Corvimo"));
+    home.InstallClient();
+    for (const auto& [source, target, expected] : rows) {
+        WriteDeep(home.app + "/Contents/Resources/INFO",
+                  "build_version=0\n[Version]\nbuild_version=" + source + "\n");
+        WriteFile(home.folder / "INFO",
+                  "[Other]\nbuild_version=999\n[Version]\nbuild_version = " + target + "\n");
+        MacService service;
+        service.PreUpgrade();
+        EXPECT_EQ(expected, service.IsNeedUpgrade()) << source << " -> " << target;
+    }
+    fs::remove(home.app + "/Contents/MacOS/corvimo-ui");
+    EXPECT_TRUE(MacService().IsNeedUpgrade());
 }
 
 TEST(PrepareUserEnv, RollsBackWhatCannotBeUnpacked) {
     const PrivateHome home;
-    home.Package().File("Contents/new", "new").File("../outside", "").Finish();
+    home.Pack({{"Contents/new", "new"}, {"../outside", ""}});
     const CapturedLog log;
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
-    EXPECT_EQ("new", ReadFile(home.app + "/Contents/new"));
-    home.InstallClient("100");
+    home.InstallClient();
     const TreeSnapshot before = Snapshot(home / ".Corvimo");
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
     EXPECT_EQ(before, Snapshot(home / ".Corvimo"));
+    const std::string why = "ERROR extractor: archive_read_extract2 failed: 'Path contains '..''";
     const std::string failed = kError + "Failed to extract package, ";
-    EXPECT_EQ((Records{failed + "and no old installation to rollback",
+    EXPECT_EQ((Records{why, failed + "and no old installation to rollback", why,
                        failed + "rollback to old installation"}),
-              log.Without(" extractor: "));
+              log.All());
 }
 
-TEST(PrepareUserEnv, InstallsNothingWithoutANameForTheBackup) {
+TEST(PrepareUserEnv, InstallsOnlyWithANameForTheBackup) {
     const PrivateHome home;
-    home.InstallClient("100");
-    home.Package().File("new", "101").Finish();
+    home.InstallClient();
+    home.Pack({{"new", "101"}});
     Records expected;
     for (const char* const number : {"", "1", "2", "3", "4", "5", "6", "7", "8", "9"}) {
         const std::string name = home.app + "_tmp" + number;
@@ -129,46 +124,26 @@ TEST(PrepareUserEnv, InstallsNothingWithoutANameForTheBackup) {
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
     EXPECT_EQ(expected, log.All());
     EXPECT_EQ(before, Snapshot(home / ".Corvimo"));
+
+    fs::remove_all(home.app + "_tmp9");
+    EXPECT_EQ(0, MacService().PrepareUserEnv());
+    EXPECT_EQ(std::vector<std::string>{"Corvimo.app"}, NamesIn(home / ".Corvimo"));
 }
 
 TEST(MigrateService, LosesNoData) {
-    // clang-format off
-    const struct { const char *in_the_way, *new_folder, *message; } rows[] = {
-        {"unrelated",          ".Corvimo",      nullptr},
-        {".Corvimo/data/file", ".Corvimo",      "Failed to move data to Corvimo folder"},
-        {"file",               "file/.Corvimo", "Failed to create Corvimo folder"},
-    };
-    // clang-format on
-    for (const auto& row : rows) {
+    const std::tuple<std::string, std::string, std::string> rows[] = {
+        {".Corvimo", ".Corvimo/data/file", "Failed to move data to Corvimo folder"},
+        {"file/.Corvimo", "file", "Failed to create Corvimo folder"}};
+    for (const auto& [new_folder, in_the_way, message] : rows) {
         const PrivateHome home;
         UIPathManager::getInstance()->setPath(QStringLiteral("user_corvimo_path"),
-                                              QString::fromStdString(home / row.new_folder));
+                                              QString::fromStdString(home / new_folder));
         WriteDeep(home / ".Lumaport/data/a/file", "data");
-        WriteDeep(home / row.in_the_way, "new");
+        WriteDeep(home / in_the_way, "new");
         const TreeSnapshot before = Snapshot(home / ".");
         const CapturedLog log;
         MacService().MigrateService();
-        if (row.message == nullptr) {
-            EXPECT_EQ("data", ReadFile(home / ".Corvimo/data/a/file"));
-            EXPECT_FALSE(fs::exists(home / ".Lumaport"));
-        } else {
-            EXPECT_EQ(before, Snapshot(home / "."));
-            EXPECT_EQ(Records{kError + row.message}, log.Without(" file-op: "));
-        }
+        EXPECT_EQ(before, Snapshot(home / "."));
+        EXPECT_EQ(kError + message, log.All().back());
     }
-}
-
-TEST(FSCopyPath, CopiesATreeUpToTheFirstFailure) {
-    const PrivateHome home;
-    WriteDeep(home / "from/a/file", "content");
-    EXPECT_EQ(0, MacService().FSCopyPath(home / "from", home / "x/to"));
-    EXPECT_EQ((TreeSnapshot{{"a", "dir"}, {"a/file", "file 644 content"}}),
-              Snapshot(home / "x/to"));
-    fs::create_symlink("nowhere", home / "from/a/link");
-    const CapturedLog log;
-    EXPECT_EQ(-1, MacService().FSCopyPath(home / "from", home / "to"));
-    const std::string failed = kError + "FSCopyPath: failed to copy from '";
-    EXPECT_EQ((Records{failed + (home / "from/a/link' to '") + (home / "to/a/link'"),
-                       failed + (home / "from/a' to '") + (home / "to/a'")}),
-              log.Without(" file-op: "));
 }
