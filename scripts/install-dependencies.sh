@@ -4,8 +4,8 @@
 #   install-dependencies.sh GROUP...
 #
 # Groups: build (compile the launcher and assemble its bundle), test (what the tests need on top),
-# fuzz, qt6 (the other compiler and the other Qt), analyse, bench, demo and pictures (what each needs on
-# top; the last are those in docs/).
+# fuzz, qt6 (the other compiler and the other Qt), analyse, bench, archive, demo and pictures (what each
+# needs on top; the last are those in docs/).
 # With everything in place it changes nothing and needs neither root nor a network.
 set -euo pipefail
 
@@ -18,6 +18,7 @@ packages_of() {
     qt6) echo clang qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev ;;
     analyse) echo clang-tidy clang-tools cppcheck ;;
     bench) echo libbenchmark-dev libspdlog-dev libarchive-tools unzip rsync strace ;;
+    archive) echo debootstrap ;;
     demo) echo fonts-dejavu-core ;;
     pictures) echo xvfb imagemagick fontconfig graphviz \
         fonts-liberation fonts-noto-cjk fonts-thai-tlwg ;;
@@ -43,7 +44,7 @@ as_root() {
 }
 
 usage() {
-    echo "usage: install-dependencies.sh build|test|fuzz|qt6|analyse|bench|demo|pictures..." >&2
+    echo "usage: install-dependencies.sh build|test|fuzz|qt6|analyse|bench|archive|demo|pictures..." >&2
     exit 2
 }
 
