@@ -33,6 +33,8 @@ INFO = "Contents/Resources/INFO"
 ENTRY_TIME = (1980, 1, 1, 0, 0, 0)  # The earliest that a zip archive can hold.
 CHUNK = 1 << 20
 MAX_BUILD = 2**31 - 1  # The launcher compares builds as 32-bit signed numbers.
+# What zipfile raises about an archive that is damaged or none at all.
+DAMAGE = (zipfile.BadZipFile, zlib.error, EOFError, RuntimeError)
 
 
 class Refused(Exception):
@@ -193,6 +195,18 @@ def escaped_for_make(path):
     return re.sub(r"([ #\\])", r"\\\1", path).replace("$", "$$")
 
 
+@contextlib.contextmanager
+def opened(package):
+    """The archive of a package; what the block lets through of its damage is told with its name."""
+    if not package.is_file():
+        raise Refused(f"'{package}' is no file; name a package that this script has written")
+    try:
+        with zipfile.ZipFile(package) as archive:
+            yield archive
+    except DAMAGE as error:
+        raise Refused(f"'{package}' is no whole zip archive ({error}); write it anew") from None
+
+
 def entry_mode(record):
     return record.external_attr >> 16
 
@@ -204,7 +218,7 @@ def last_entry_fault(records):
 
 
 def list_package(package):
-    with zipfile.ZipFile(package) as archive:
+    with opened(package) as archive:
         records = archive.infolist()
         for record in records:
             link = stat.S_ISLNK(entry_mode(record))
@@ -232,7 +246,7 @@ def content_fault(archive, record, entry):
         if stat.S_ISREG(entry.mode):
             with entry.open() as expected, archive.open(record) as packed:
                 return None if same_bytes(packed, expected) else "another content"
-    except (zipfile.BadZipFile, zlib.error, EOFError, RuntimeError) as error:
+    except DAMAGE as error:
         return f"damaged ({error})"
     return None
 
@@ -264,7 +278,7 @@ def package_faults(archive, entries):
 
 def verify(package, client):
     entries = client_entries(client)
-    with zipfile.ZipFile(package) as archive:
+    with opened(package) as archive:
         faults = list(package_faults(archive, entries))
     for fault in faults:
         print(f"{package}: {fault}", file=sys.stderr)
@@ -305,7 +319,7 @@ def main():
             return verify(*arguments.verify)
         make(*arguments.make, arguments.depfile)
         return 0
-    except (Refused, OSError, zipfile.BadZipFile) as error:
+    except (Refused, OSError) as error:
         print(f"make-package.sh: {error}", file=sys.stderr)
         return 1
 

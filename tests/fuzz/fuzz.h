@@ -1,34 +1,13 @@
-// What the fuzz targets share. Each is one source file.
+// What the fuzz targets share. Each is one source file; a property that does not hold ends the run,
+// and so reports the input.
 #pragma once
 
-#include <sys/mman.h>
-
-#include <cstddef>
+#include <cassert>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
-#include "lib/platform/unique_fd.h"
-
-/// Ends the run, and so reports the input, when a property does not hold.
-inline void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-/// A file that is in memory alone and has a path all the same.
-class MemoryFile {
-public:
-    explicit MemoryFile(const std::string& content) : fd_(memfd_create("input", MFD_CLOEXEC)) {
-        const ssize_t written = write(fd_.Get(), content.data(), content.size());
-        Require(written == static_cast<ssize_t>(content.size()));
-    }
-    std::string path() const { return "/proc/self/fd/" + std::to_string(fd_.Get()); }
-
-private:
-    UniqueFd fd_;
-};
+#include "tests/support/files.h"
+#include "tests/support/temp_dir.h"
 
 /// What a target defines: checks its properties on one input.
 void Check(const std::string& input);

@@ -56,4 +56,14 @@ TEST(Config, Files) {
     EXPECT_EQ(config.entries, (Entries{{"old", "1"}}));
 }
 
+TEST(Config, Numbers) {
+    const std::pair<const char*, int32_t> rows[] = {
+        {"12abc", 12}, {"abc", 0}, {"010", 10}, {" \t-5 6", -5}, {"2147483648", 2147483647}};
+    for (const auto& [value, number] : rows) {
+        Config config;
+        config.entries["key"] = value;
+        EXPECT_EQ(config.get_int("key"), number) << value;
+    }
+}
+
 }  // namespace

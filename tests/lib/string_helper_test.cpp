@@ -38,6 +38,15 @@ TEST(StringHelper, IllFormedTextIsRefusedWithAWarning) {
     EXPECT_EQ(narrow, "old");
 }
 
+TEST(StringHelper, RtrimKeepsATextOfNothingElse) {
+    const char* const rows[][3] = {{"a  ", " ", "a"}, {"  ", " ", "  "}, {"a/\\/", "/\\", "a"}};
+    for (const auto& [text, set, trimmed] : rows) {
+        std::string result = text;
+        StringHelper::Rtrim(result, set);
+        EXPECT_EQ(result, trimmed);
+    }
+}
+
 TEST(StringHelper, NormalForms) {
     const std::string x(3000, 'x');
     // A text, its composed and its decomposed form.

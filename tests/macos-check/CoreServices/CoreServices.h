@@ -2,22 +2,17 @@
 // the real header is not. There is nothing to link.
 #pragma once
 
-using Boolean = unsigned char;
 using OSStatus = int;
-using OptionBits = unsigned int;
 using UInt32 = unsigned int;
 using UInt8 = unsigned char;
 
-struct FSRef {
-    UInt8 hidden[80];
-};
+struct FSRef {};
 
-enum : OSStatus { noErr = 0 };
-enum : OptionBits { kFSPathMakeRefDoNotFollowLeafSymlink = 1 };
+constexpr OSStatus noErr = 0;
+constexpr UInt32 kFSPathMakeRefDoNotFollowLeafSymlink = 1;
 
 extern "C" {
-OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, Boolean* isDirectory);
-OSStatus FSPathMakeRefWithOptions(const UInt8* path, OptionBits options, FSRef* ref,
-                                  Boolean* isDirectory);
+OSStatus FSPathMakeRef(const UInt8* path, FSRef* ref, UInt8* folder);
+OSStatus FSPathMakeRefWithOptions(const UInt8* path, UInt32 options, FSRef* ref, UInt8* folder);
 OSStatus FSRefMakePath(const FSRef* ref, UInt8* path, UInt32 pathBufferSize);
 }
