@@ -62,7 +62,7 @@ function(_corvimo_texts_resource result generated_dir)
         CONTENT "<RCC>\n  <qresource prefix=\"/\">\n${entries}  </qresource>\n</RCC>\n")
     set(source ${generated_dir}/texts_resource.cpp)
     add_custom_command(OUTPUT ${source}
-        COMMAND Qt${CORVIMO_QT}::rcc --name texts --output ${source} ${index}
+        COMMAND Qt${CORVIMO_QT}::rcc --no-compress --name texts --output ${source} ${index}
         DEPENDS ${index} ${compiled}
         VERBATIM)
     set(${result} ${source} PARENT_SCOPE)

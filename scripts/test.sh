@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Installs what the tests need, builds, and runs every test: with the data-race checks what runs on several
-# threads without Qt, everything with the address, leak and undefined-behaviour checks, everything with
-# the other compiler and the other Qt, the fuzzers for a few seconds each, and everything as built for
-# everyday work.
+# Installs what the tests need, builds, and runs every check: the format, with the data-race checks what runs
+# on several threads without Qt, everything with the address, leak and undefined-behaviour checks, everything
+# with the other compiler and the other Qt, the fuzzers for a few seconds each, clang-tidy and cppcheck, and
+# everything as built for everyday work.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-scripts/install-dependencies.sh build test fuzz qt6
+scripts/install-dependencies.sh build test fuzz qt6 analyse
 
 jobs=$(nproc)
 
@@ -35,4 +35,5 @@ echo "== fuzz"
 scripts/fuzz.sh 10
 
 build dev
+scripts/analyse.sh
 ctest --preset dev --parallel "$jobs"

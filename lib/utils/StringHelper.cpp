@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <iostream>
+#include <cstdio>
 #include <memory>
 #include <string_view>
 
@@ -38,10 +38,10 @@ bool Warned(const char* function, UErrorCode error, int line) {
     if (U_SUCCESS(error)) {
         return false;
     }
-    // One text and one insertion, so that warnings of two threads do not mix.
-    std::cerr << "Warning: " + std::string(function) + ": error code " + std::to_string(error) +
-                     " at line " + std::to_string(line) + "\n"
-              << std::flush;
+    // One call, so that warnings of two threads do not mix. C++ streams would be set up at every start
+    // of a program, for a warning that hardly any gives.
+    static_cast<void>(std::fprintf(stderr, "Warning: %s: error code %d at line %d\n", function,
+                                   static_cast<int>(error), line));
     return true;
 }
 

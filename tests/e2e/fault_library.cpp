@@ -5,6 +5,8 @@
 // aborts where its window system plug-in cannot be read and has touched nothing then. Reads and writes
 // count for files alone: a pipe and a wake-up of another thread know no errors of a disk.
 //
+// Its environment sets all of these:
+//
 //   FAULT_CALL    the kind, as the wrappers below name it; "change" is every call that changes a disk
 //   FAULT_NUMBER  the number of that call among its kind; 0 for none
 //   FAULT_ERROR   the error that it fails with; 0 sends SIGKILL to the process
@@ -18,7 +20,6 @@
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -35,42 +36,35 @@ constexpr unsigned kLongestRun = 20;  // Seconds: the stop's 15 and a margin.
 const char* kind = "";
 long number = 0;
 int error = 0;
-pid_t owner = 0;
 std::atomic<bool> has_begun{false};
 std::atomic<long> calls{0};
 
-const char* Setting(const char* name) {
-    const char* const value = std::getenv(name);
-    return value != nullptr ? value : "";
-}
-
 __attribute__((constructor)) void Begin() {
-    kind = Setting("FAULT_CALL");
-    number = std::atol(Setting("FAULT_NUMBER"));
-    error = std::atoi(Setting("FAULT_ERROR"));
+    kind = std::getenv("FAULT_CALL");
+    number = std::atol(std::getenv("FAULT_NUMBER"));
+    error = std::atoi(std::getenv("FAULT_ERROR"));
     unsetenv("LD_PRELOAD");
     alarm(kLongestRun);
-    owner = getpid();
 }
 
 __attribute__((destructor)) void Report() {
     has_begun = false;
-    FILE* const file = owner == getpid() ? std::fopen(Setting("FAULT_REPORT"), "w") : nullptr;
+    FILE* const file = std::fopen(std::getenv("FAULT_REPORT"), "w");
     if (file != nullptr) {
         std::fprintf(file, "%ld", calls.load());
         std::fclose(file);
     }
 }
 
-// Whether this call is the one, with errno set. A child on its way to another program is not meant.
+// Whether this call is the one, with errno set.
 bool Strikes(const char* call, bool changes_disk) {
     const bool counts =
         std::strcmp(kind, call) == 0 || (changes_disk && std::strcmp(kind, "change") == 0);
-    if (!has_begun || !counts || owner != getpid() || ++calls != number) {
+    if (!has_begun || !counts || ++calls != number) {
         return false;
     }
     if (error == 0) {
-        kill(owner, SIGKILL);
+        kill(getpid(), SIGKILL);
     }
     errno = error;
     return true;
@@ -90,11 +84,10 @@ bool BeginsAt(const char* folder) {
 
 }  // namespace
 
-// Remembered without a lock, which a child might find held for ever.
-#define NEXT(name)                                                             \
-    reinterpret_cast<decltype(&name)>([] {                                     \
-        static std::atomic<void*> next{nullptr};                               \
-        return next != nullptr ? next.load() : next = dlsym(RTLD_NEXT, #name); \
+#define NEXT(name)                                         \
+    reinterpret_cast<decltype(&name)>([] {                 \
+        static void* const next = dlsym(RTLD_NEXT, #name); \
+        return next;                                       \
     }())
 
 #define WRAP_WHERE(condition, result, name, call, changes_disk, failure, parameters, arguments) \
@@ -130,23 +123,7 @@ WRAP(int, remove, "unlink", true, -1, (const char* path), (path))
 WRAP(DIR*, opendir, "opendir", false, nullptr, (const char* path), (path))
 WRAP(dirent*, readdir, "readdir", false, nullptr, (DIR * stream), (stream))
 WRAP(int, lstat, "lstat", false, -1, (const char* path, struct stat* status), (path, status))
-WRAP(pid_t, fork, "fork", false, -1, (), ())
 WRAP(int, posix_spawn, "fork", false, errno,
      (pid_t * child, const char* path, const posix_spawn_file_actions_t* actions,
       const posix_spawnattr_t* attributes, char* const* argv, char* const* variables),
      (child, path, actions, attributes, argv, variables))
-
-// Qt makes the processes that it waits for without the C library's fork.
-extern "C" long syscall(long call, ...) {
-    va_list args;
-    va_start(args, call);
-    long given[6];
-    for (long& argument : given) {
-        argument = va_arg(args, long);
-    }
-    va_end(args);
-    if (call == SYS_clone && Strikes("fork", false)) {
-        return -1;
-    }
-    return NEXT(syscall)(call, given[0], given[1], given[2], given[3], given[4], given[5]);
-}

@@ -10,6 +10,7 @@ import dataclasses
 import errno
 import os
 import shutil
+import signal
 import sys
 import unittest
 
@@ -55,7 +56,7 @@ class Stage(Scene):
         (self.home / ".Corvimo").mkdir()
         if scenario.is_on_another_volume:
             mount_volume(test, self.home / ".Corvimo", "mode=755")
-        test.assertEqual([], self.faults_of_installing("100"))
+        self.check_installing("100")
         self.old_tree = snapshot(self.home / APP)
         shutil.copytree(self.home / APP, self.folder / "old", symlinks=True)
 
@@ -101,44 +102,38 @@ class Stage(Scene):
         self.test.assertEqual(0, status)
         return int((self.folder / "calls").read_text())
 
-    # What is wrong after a run with one call failing, or after the next starts.
-    def faults_of(self, call, number, error):
+    # Has one call fail, or the launcher killed at it, and checks what is there then and after the
+    # next starts.
+    def check_fault(self, call, number, error):
         is_kill = error == KILL
         status, new_tree = self.run_with_fault(call, number, error)
-        if (status == 0) == is_kill:
-            return ["crashed, hung or not killed"]
+        self.test.assertEqual(-signal.SIGKILL if is_kill else 0, status)
         app = snapshot(self.home / APP)
-        may_be_aside = is_kill or self.scenario.package_is_bad
-        is_aside = may_be_aside and self.old_tree in map(snapshot, self.backups())
-        if self.scenario.has_old_client and not is_aside and app not in (self.old_tree, new_tree):
-            return ["no whole client"]
-        if not self.has_data():
-            return ["data gone"]
+        if self.scenario.has_old_client and app != new_tree:
+            may_be_aside = is_kill or self.scenario.package_is_bad
+            places = [app, *map(snapshot, self.backups() if may_be_aside else ())]
+            self.test.assertIn(self.old_tree, places, "no whole client")
+        self.check_data()
         if app == new_tree and not is_kill:
-            return []
-        faults = self.faults_of_installing("101") + self.faults_of_installing("102")
-        if self.backups():
-            faults.append("backup left")
-        if is_kill and (self.home / ".Lumaport").exists():
-            faults.append("not migrated")
-        return faults
+            return
+        for build in ("101", "102"):
+            self.check_installing(build)
+            self.check_data()
+        self.test.assertEqual([], self.backups())
+        self.test.assertFalse(is_kill and (self.home / ".Lumaport").exists(), "not migrated")
 
-    # What is wrong after an ordinary start with a good package.
-    def faults_of_installing(self, build):
+    # Starts the launcher in an ordinary way, with a good package.
+    def check_installing(self, build):
         tree = self.carry(build)
         (self.home / "started").unlink(missing_ok=True)
-        faults = []
-        if self.run_to_the_end() != 0 or snapshot(self.home / APP) != tree:
-            faults.append(f"{build} not installed")
-        if [started for started, _ in self.started()] != [build]:
-            faults.append(f"{build} not opened")
-        if build != "100" and not self.has_data():
-            faults.append(f"data gone after {build}")
-        return faults
+        self.test.assertEqual(0, self.run_to_the_end())
+        self.test.assertEqual(tree, snapshot(self.home / APP))
+        self.check_started(build)
 
-    def has_data(self):
+    def check_data(self):
         trees = snapshot(self.home / ".Corvimo"), snapshot(self.home / ".Lumaport")
-        return all(any(tree.get(file) == (0o644, file.encode()) for tree in trees) for file in DATA)
+        for file in DATA:
+            self.test.assertIn((0o644, file.encode()), [tree.get(file) for tree in trees])
 
 
 class MatrixTest(unittest.TestCase):
@@ -167,7 +162,7 @@ class MatrixTest(unittest.TestCase):
             for error in errors if IS_WHOLE else [errors[step % len(errors)]]:
                 with self.subTest(stage.scenario.name, call=number, error=error):
                     tried += 1
-                    self.assertEqual([], stage.faults_of(call, number, error))
+                    stage.check_fault(call, number, error)
                     good += 1
         name = f"{self.kind}, {stage.scenario.name}, {self.shard + 1}/{self.shards}"
         print(f"figure: {name}: {good} of {tried}", flush=True)

@@ -80,10 +80,9 @@ def mount_volume(test, folder, options):
     test.addCleanup(subprocess.run, ["umount", "--lazy", folder], check=True)
 
 
-# One person's machine. Ends every client that was started on it when the test is over. `home_link` is
-# a link by which the launcher is told of its home.
+# One person's machine. Ends every client that was started on it when the test is over.
 class Scene:
-    def __init__(self, test, home="home", home_link=None, client=CLIENT_SCRIPT):
+    def __init__(self, test, home="home", client=CLIENT_SCRIPT):
         LIBC.prctl(PR_SET_CHILD_SUBREAPER, 1)  # What the launcher leaves behind comes to us.
         folder = tempfile.TemporaryDirectory(prefix="corvimo-test-")
         test.addCleanup(folder.cleanup)
@@ -94,8 +93,6 @@ class Scene:
         self.folder.chmod(0o755)
         self.home = self.folder / home
         self.home.mkdir()
-        if home_link:
-            (self.folder / home_link).symlink_to(home)
         shutil.copytree(os.environ["BUNDLE"], self.folder / "Launcher.app", symlinks=True)
         self.contents = self.folder / "Launcher.app/Contents"
         self.package = self.contents / "Resources/package/lumaport.cpk"
@@ -104,7 +101,7 @@ class Scene:
         kept = {name: value for name, value in os.environ.items() if "SAN_OPTIONS" in name}
         self.environment = kept | {
             "PATH": os.environ["PATH"],
-            "HOME": str(self.folder / (home_link or home)),
+            "HOME": str(self.home),
             "QT_QPA_PLATFORM": "offscreen",
         }
 

@@ -10,20 +10,10 @@
 #include "lib/file/file-op.h"
 #include "lib/platform/linux/file_system_type.h"
 #include "tests/support/captured_log.h"
-#include "tests/support/few_descriptors.h"
 #include "tests/support/files.h"
 #include "tests/support/temp_dir.h"
 
 namespace fs = std::filesystem;
-
-TEST(PathText, ParentAndBaseName) {
-    const char* const rows[][3] = {{"", "/", ""},     {"a", "/", "a"}, {"/a", "/", "a"},
-                                   {"a/b", "a", "b"}, {"/", "/", ""},  {"/a/b/", "/a/b", ""}};
-    for (const auto& [path, parent, base] : rows) {
-        EXPECT_EQ(parent, FSParentPath(path)) << path;
-        EXPECT_EQ(base, FSBaseName(path)) << path;
-    }
-}
 
 TEST(FileTypes, AreToldByAListingAndByGetFileInfo) {
     const TempDir dir;
@@ -61,12 +51,9 @@ TEST(IsFileExist, ExactAsksForTheStoredPath) {
         {dir / "folder/caf\xC3\xA9/x", false, false},
         {"", false, false},
     };
-    for (const rlim_t descriptors : {64U, 3U}) {  // Without a free one it takes the slower way.
-        const FewDescriptors few(descriptors);
-        for (const auto& [path, exists, exact] : rows) {
-            EXPECT_EQ(exists, IsFileExist(path, false)) << path;
-            EXPECT_EQ(exact, IsFileExist(path, true)) << path;
-        }
+    for (const auto& [path, exists, exact] : rows) {
+        EXPECT_EQ(exists, IsFileExist(path, false)) << path;
+        EXPECT_EQ(exact, IsFileExist(path, true)) << path;
     }
 }
 
@@ -84,14 +71,6 @@ TEST(FSCopy, CopiesEveryLengthWithTheModeAskedFor) {
     }
     EXPECT_EQ(fs::perms(0644), fs::status(dir / "plain").permissions());
     EXPECT_EQ(fs::perms(0750), fs::status(dir / "alike").permissions());
-}
-
-TEST(FSCopy, KeepsTheSourceOfAnIncompleteCopy) {
-    const TempDir dir;
-    WriteFile(dir / "from", "content");
-    EXPECT_EQ(-2, FSCopy(dir / "from", "/dev/full", true, false));
-    EXPECT_EQ(-1, FSCopy(dir / "from", dir / "none/to", true, false));
-    EXPECT_EQ("content", ReadFile(dir / "from"));
 }
 
 TEST(FSRename, OnOneVolume) {
@@ -154,15 +133,10 @@ TEST(FSMKDir, CreatesFoldersAndTakesNothingElseForOne) {
         EXPECT_EQ(result, FSMKDir(path, recursive)) << path;
         EXPECT_TRUE(result != 0 || fs::is_directory(path)) << path;
     }
-}
-
-TEST(FSMKDirFromRoot, CreatesLevelByLevelBelowTheRoot) {
-    const TempDir dir;
     EXPECT_EQ(0, FSMKDirFromRoot(dir / "a/b", dir.path()));
     EXPECT_TRUE(fs::is_directory(dir / "a/b"));
     EXPECT_EQ(-1, FSMKDirFromRoot(dir / "a", dir / "a/b"));
     EXPECT_EQ(-1, FSMKDirFromRoot(dir / "ab/c", dir / "a"));
-    EXPECT_FALSE(fs::exists(dir / "ab"));
 }
 
 TEST(Links, AreDescribedAndMostlyChangedThemselves) {
@@ -197,7 +171,6 @@ TEST(Permissions, TellOnlyRefusals) {
     ASSERT_EQ(0, FSMktemp(dir.path(), file));
     EXPECT_EQ(fs::perms(0644), fs::status(file).permissions());
     EXPECT_TRUE(isFileLocked(file, X_OK));  // For everybody, root included.
-    EXPECT_FALSE(hasFilePermission(file, X_OK));
     EXPECT_FALSE(isFileLocked(file, R_OK));
     EXPECT_FALSE(isFileLocked(dir / "none", X_OK));
 }
@@ -207,16 +180,13 @@ TEST(Failures, AreLoggedWithTheirReason) {
     WriteFile(dir / "file", "");
     const std::string none = dir / "none/x";
     const std::string reason = "No such file or directory";
-    DIR_HANDLE handle;
     const CapturedLog log;
     EXPECT_EQ(-1, FSCopy(none, dir / "to", false, false));
     EXPECT_EQ(-2, FSMKDir(none, false));
-    EXPECT_EQ(-1, FSOpenDir(none, 0, handle));
     EXPECT_EQ(-1, FSFsync(dir / "file/x"));
     const std::string source = "ERROR file-op: ";
     EXPECT_EQ((Records{source + "CopyFile: open(" + none + "): " + reason + " (2)",
                        source + "path = " + none + " errno : " + reason,
-                       source + "FSOpenDir: Failed to open directory '" + none + "'. " + reason,
                        source + "FSFsync: open(" + (dir / "file/x") + "): Not a directory (20)"}),
               log.All());
 }

@@ -1,5 +1,6 @@
 // What is made of a package, and what a hostile one cannot do.
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -8,7 +9,6 @@
 #include "lib/file/file-op.h"
 #include "mac/mac-service.h"
 #include "tests/support/captured_log.h"
-#include "tests/support/few_descriptors.h"
 #include "tests/support/private_home.h"
 
 namespace fs = std::filesystem;
@@ -23,9 +23,12 @@ std::string Levels(int count) {
     return QStringLiteral("d/").repeated(count).toStdString();
 }
 
-// A home with an old client, everything around it, which no package may touch, and few descriptors.
+// A home with an old client, and everything around it, which no package may touch. From the first such
+// test on this program has few descriptors.
 struct HostilePackage : testing::Test {
     HostilePackage() {
+        const rlimit few = {64, 64};
+        EXPECT_EQ(0, setrlimit(RLIMIT_NOFILE, &few));
         WriteDeep(home / ".Corvimo/data/file", "data");
         WriteFile(home / "outside", "untouched");
         around = Snapshot(home / ".");
@@ -47,7 +50,6 @@ struct HostilePackage : testing::Test {
         return result;
     }
 
-    const FewDescriptors few{64};
     const PrivateHome home;
     const CapturedLog log;
     TreeSnapshot around;

@@ -2,10 +2,10 @@
 
 #include <signal.h>
 #include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QDir>
-#include <QProcess>
 #include <cerrno>
 #include <cstdlib>
 #include <system_error>
@@ -15,6 +15,7 @@
 #include "lib/file/file-op.h"
 #include "lib/log.h"
 #include "lib/platform/platform.h"
+#include "lib/platform/retry.h"
 
 #define LOG_SOURCE "mac/mac-service"
 
@@ -33,24 +34,14 @@ constexpr const char* kRegistrationTool =
     "lsregister";
 constexpr const char* kOpenTool = "/usr/bin/open";
 
-// Not a plain QProcess: where the system has no room for another process, Qt 5.15 on Linux takes one of
-// its own class for started and waits for it without end.
-class ToolProcess : public QProcess {};
-
-// Runs a tool to its end. Whether it could be started and has succeeded.
-bool RunTool(const QString& tool, const QStringList& arguments) {
-    ToolProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(tool, arguments);
-    return process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit &&
-           process.exitCode() == 0;
-}
-
-// Starts a tool in a session of its own and leaves it to itself. Whether it could be started.
+// Starts a tool, in a session of its own where asked for. Gives its process id, or -1 when it could not
+// be started.
 //
-// Not QProcess::startDetached: Qt 5.15 allocates memory in the child between fork and exec, where a
-// lock of the allocator that the dialog's thread held at that moment is never released again.
-bool StartDetached(const std::string& tool, const std::vector<std::string>& arguments) {
+// Not QProcess: Qt 5.15 allocates memory between fork and exec, where a lock of the allocator that the
+// dialog's thread held at that moment is never released again, and where the system has no room for
+// another process it takes that for a start and waits without end. Nor does this copy the page tables
+// of a process with fifty libraries.
+pid_t StartTool(const std::string& tool, const std::vector<std::string>& arguments, bool detached) {
     std::vector<char*> argv = {const_cast<char*>(tool.c_str())};  // Nobody writes to them.
     for (const std::string& argument : arguments) {
         argv.push_back(const_cast<char*>(argument.c_str()));
@@ -61,15 +52,23 @@ bool StartDetached(const std::string& tool, const std::vector<std::string>& argu
     static_cast<void>(sigaddset(&ignored_here, SIGPIPE));
     posix_spawnattr_t attributes;
     if (posix_spawnattr_init(&attributes) != 0) {
-        return false;
+        return -1;
     }
+    const int flags = POSIX_SPAWN_SETSIGDEF | (detached ? POSIX_SPAWN_SETSID : 0);
     pid_t pid = 0;
     const bool started =
         posix_spawnattr_setsigdefault(&attributes, &ignored_here) == 0 &&
-        posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF) == 0 &&
+        posix_spawnattr_setflags(&attributes, static_cast<short>(flags)) == 0 &&
         posix_spawn(&pid, tool.c_str(), nullptr, &attributes, argv.data(), environ) == 0;
     static_cast<void>(posix_spawnattr_destroy(&attributes));
-    return started;
+    return started ? pid : -1;
+}
+
+// Waits for a tool to end. Whether it has succeeded.
+bool HasSucceeded(pid_t tool) {
+    int status = 0;
+    const pid_t ended = RetryInterrupted([&] { return waitpid(tool, &status, 0); });
+    return ended == tool && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 // The leading decimal number of a text, cut to 32 bits; 0 where there is none.
@@ -203,14 +202,13 @@ bool MacService::PerUserBinPathExist() {
 }
 
 int MacService::LaunchPerUserBin() {
-    const QString bundle = RegisteredPath("user_corvimo_app_path");
-    const QString tool = QString::fromStdString(PlatformToolPath(kRegistrationTool));
-    if (!RunTool(tool, {QStringLiteral("-u"), bundle})) {
-        LOG_MSG(ERROR, "Cannot unregister bundle, %s", bundle.toStdString().c_str());
+    const std::string bundle = RegisteredPath("user_corvimo_app_path").toStdString();
+    const pid_t registration =
+        StartTool(PlatformToolPath(kRegistrationTool), {"-u", bundle}, false);
+    if (registration < 0 || !HasSucceeded(registration)) {
+        LOG_MSG(ERROR, "Cannot unregister bundle, %s", bundle.c_str());
     }
-    const bool started =
-        StartDetached(PlatformToolPath(kOpenTool), {"-n", "-a", bundle.toStdString()});
-    return started ? 0 : -1;
+    return StartTool(PlatformToolPath(kOpenTool), {"-n", "-a", bundle}, true) < 0 ? -1 : 0;
 }
 
 void MacService::LoadSourceVerInfo() {
