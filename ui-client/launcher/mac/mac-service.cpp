@@ -19,7 +19,8 @@
 
 #define LOG_SOURCE "mac/mac-service"
 
-extern char** environ;  // No header of macOS declares it.
+// macOS declares it in no header.
+extern char** environ;  // NOLINT(readability-redundant-declaration)
 
 namespace {
 
