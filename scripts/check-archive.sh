@@ -5,50 +5,39 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-runtime_packages=(libqt5widgets5 libarchive13 libicu72)
+runtime_packages=libqt5widgets5,libarchive13,libicu72
 suite=bookworm
 user=65534
 
 scripts/install-dependencies.sh build archive
 cmake --preset release >/dev/null
 cmake --build --preset release --parallel "$(nproc)" >/dev/null
+cpack --config build/release/CPackConfig.cmake -B build/release/archive >/dev/null
 
 root=$(mktemp -d -t corvimo-root.XXXXXX)
+trap 'rm -rf --one-file-system "$root"' EXIT
 chmod 755 "$root"
 home=$root/home/person
-client=$home/.Corvimo/Corvimo.app/Contents/MacOS/corvimo-ui
 
-# Only what was started in there has it for its root folder.
-cleanup() {
-    local link
-    for link in /proc/[0-9]*/root; do
-        if [[ $(readlink "$link" 2>/dev/null) == "$root" ]]; then
-            link=${link#/proc/}
-            kill -KILL "${link%/root}" || true
-        fi
-    done
-    rm -rf --one-file-system "$root"
-}
-trap cleanup EXIT
-
-echo "== A bare root folder with ${runtime_packages[*]}"
-debootstrap --variant=minbase --include="$(IFS=, && echo "${runtime_packages[*]}")" "$suite" "$root" >/dev/null
-
-echo "== The archive, unpacked and started in it"
-cpack --config build/release/CPackConfig.cmake -B build/release/archive >/dev/null
+echo "== A bare root folder with $runtime_packages"
+debootstrap --variant=minbase --include="$runtime_packages" "$suite" "$root" >/dev/null
 mkdir -p "$home/My Programs"
 tar -xzf build/release/archive/*.tar.gz -C "$home/My Programs"
 chown -R "$user:$user" "$home"
-chroot --userspec="$user:$user" "$root" /usr/bin/env -i HOME=/home/person PATH=/usr/bin:/bin \
-    QT_QPA_PLATFORM=offscreen "/home/person/My Programs/Corvimo.app/Contents/MacOS/launcher"
 
-for ((tries = 0; tries < 100; tries++)); do
-    if [[ -x $client && -s $home/.Corvimo/ui.pid ]]; then
-        echo "The client was installed and has started."
-        exit 0
-    fi
-    sleep 0.1
-done
-echo "check-archive.sh: the client did not start; the log:" >&2
-cat "$home/.Corvimo/log/launcher.log" >&2
-exit 1
+echo "== The launcher in it"
+# Whatever is started there ends together with the shell, the first process of its own system.
+# shellcheck disable=SC2016 # The shell in there expands its variables.
+unshare --pid --fork --mount-proc="$root/proc" chroot --userspec="$user:$user" "$root" \
+    /usr/bin/env -i HOME=/home/person PATH=/usr/bin:/bin QT_QPA_PLATFORM=offscreen sh -c '
+        "$HOME/My Programs/Corvimo.app/Contents/MacOS/launcher" || exit
+        for _ in $(seq 100); do
+            if kill -0 "$(sed -n "s/^pid=//p" "$HOME/.Corvimo/ui.pid")" 2>/dev/null; then
+                echo "The client was installed and runs."
+                exit 0
+            fi
+            sleep 0.1
+        done
+        echo "The client does not run; the log:" >&2
+        cat "$HOME/.Corvimo/log/launcher.log" >&2
+        exit 1'
