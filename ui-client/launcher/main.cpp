@@ -133,6 +133,8 @@ int RunLauncher() {
 int main(int argc, char** argv) {
     // Standard output may be a pipe that nobody reads.
     static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    // A parent that ignored it would leave us without the results of the tools that we start.
+    static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
     // An environment that names no installed locale leaves the C locale, which serves as well.
     static_cast<void>(std::setlocale(LC_ALL, ""));
     PlatformUseUtf8CharacterType();
