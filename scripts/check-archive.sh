@@ -9,9 +9,10 @@ runtime_packages=libqt5widgets5,libarchive13,libicu72
 suite=bookworm
 user=65534
 
-scripts/install-dependencies.sh build archive
+scripts/install-dependencies.sh build test archive
 cmake --preset release >/dev/null
 cmake --build --preset release --parallel "$(nproc)" >/dev/null
+rm -rf build/release/archive
 cpack --config build/release/CPackConfig.cmake -B build/release/archive >/dev/null
 
 root=$(mktemp -d -t corvimo-root.XXXXXX)
@@ -30,9 +31,13 @@ echo "== The launcher in it"
 # shellcheck disable=SC2016 # The shell in there expands its variables.
 unshare --pid --fork --mount-proc="$root/proc" chroot --userspec="$user:$user" "$root" \
     /usr/bin/env -i HOME=/home/person PATH=/usr/bin:/bin QT_QPA_PLATFORM=offscreen sh -c '
-        "$HOME/My Programs/Corvimo.app/Contents/MacOS/launcher" || exit
+        contents="$HOME/My Programs/Corvimo.app/Contents"
+        if ldd "$contents/Frameworks/plugins/platforms/"* | grep "not found"; then
+            exit 1
+        fi
+        "$contents/MacOS/launcher" || exit
         for _ in $(seq 100); do
-            if kill -0 "$(sed -n "s/^pid=//p" "$HOME/.Corvimo/ui.pid")" 2>/dev/null; then
+            if kill -0 "$(sed -n "s/^pid=//p" "$HOME/.Corvimo/ui.pid" 2>/dev/null)" 2>/dev/null; then
                 echo "The client was installed and runs."
                 exit 0
             fi

@@ -156,7 +156,7 @@ main() {
     local percent
     trap clean_up EXIT
     if (($# == 0)); then
-        "$root/scripts/install-dependencies.sh" build
+        "$root/scripts/install-dependencies.sh" build test
         (cd "$root" && cmake --preset release && cmake --build --preset release --target bundle)
     fi
     "$root/scripts/install-dependencies.sh" pictures

@@ -32,6 +32,7 @@ for target in "${targets[@]}"; do
     log=$(mktemp)
     if ! fuzz "$target" >"$log" 2>&1; then
         cat "$log"
+        echo "build/fuzz/tests/fuzz/${target}_fuzz FILE tells which property fails with such a file" >&2
         exit 1
     fi
     echo "$target: $(tail -n 1 "$log")"

@@ -34,7 +34,7 @@ ENTRY_TIME = (1980, 1, 1, 0, 0, 0)  # The earliest that a zip archive can hold.
 CHUNK = 1 << 20
 MAX_BUILD = 2**31 - 1  # The launcher compares builds as 32-bit signed numbers.
 # What zipfile raises about an archive that is damaged or none at all.
-DAMAGE = (zipfile.BadZipFile, zlib.error, EOFError, RuntimeError)
+DAMAGE = (zipfile.BadZipFile, zlib.error, struct.error, EOFError, RuntimeError, UnicodeDecodeError)
 
 
 class Refused(Exception):

@@ -18,7 +18,7 @@ BINARY = b"\x7fELF\0\xff\n=\0"
 HOLD = """\
 #!/bin/sh
 touch "$HOME/held"
-while [ -e "$HOME/held" ]; do sleep 0.05; done
+while [ -e "$HOME/held" ] && [ -d "/proc/$TESTER" ]; do sleep 0.05; done
 """
 
 # Notes what it is started with where a client notes its build: the open descriptors, and which of the
@@ -143,6 +143,16 @@ class LauncherTest(unittest.TestCase):
             write(scene.contents / "Resources/INFO", content)
             self.check_run(scene, "101", "101")
 
+    def test_says_which_tools_could_not_be_started(self):
+        scene = self.upgrade()
+        for tool in (REGISTER, OPEN):
+            write(scene.contents / tool, "#!/nowhere", 0o755)
+        self.check_run(scene)
+        cannot = f"ERROR mac/mac-service: Cannot unregister bundle, {scene.home / APP}"
+        failed = "ERROR mac/mac-service: Failed to launch Lumaport UI"
+        self.assertEqual([cannot, failed, "DEBUG launcher(117): done"], scene.log()[-3:])
+
+    @unittest.skipIf(os.geteuid() != 0, "without the rights that the launcher must not have")
     def test_runs_to_its_end_where_nothing_can_be_written(self):
         scene = Scene(self)
         scene.carry_client("101")

@@ -155,7 +155,8 @@ class MatrixTest(unittest.TestCase):
             sample = 4 * TRIES + 4
         count = stage.count_calls(call)
         steps = count if IS_WHOLE else min(count, sample)
-        self.assertTrue(steps or call == "fsync", "no call seen")  # Few runs flush a file.
+        flushes = stage.scenario.is_on_another_volume
+        self.assertTrue(steps or (call == "fsync" and not flushes), "no call seen")
         tried = good = 0
         for step in range(self.shard, steps, self.shards):
             number = 1 + (2 * step + 1) * count // (2 * steps)

@@ -69,7 +69,7 @@ void UseBundledPlugins(const char* executable) {
         QDir::cleanPath(QString::fromUtf8(executable) + QLatin1String("/../../Frameworks/plugins"));
     QCoreApplication::setLibraryPaths({path});
     std::printf("lib path = '%s'\n", path.toUtf8().constData());
-    // Flushed here, so that a child started later does not find the text in its copy of the buffer.
+    // Without a plug-in Qt aborts, and the text would be lost that tells why.
     static_cast<void>(std::fflush(stdout));
 }
 

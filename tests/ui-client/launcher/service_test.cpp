@@ -60,15 +60,23 @@ TEST(StopService, FollowsTheAnswersOfTheSystem) {
 TEST(StopService, SignalsNobodyWithoutOneProcess) {
     const PrivateHome home;
     const std::string path = home / ".Lumaport/ui.pid";
+    const std::string source = "NOTE mac/mac-service: ";
+    std::vector<std::pair<std::string, Records>> rows = {
+        {"# only a comment\nother=1\n", {}},
+        {"pid=''\n", {}},
+        {"pid\n", {source + "Failed to read pid file '" + path + "', not exist ?"}}};
     for (const std::string value : {"abc", "0", "-812", "4294967296", "4294967295"}) {
-        WriteDeep(path, "pid=" + value);
+        rows.push_back({"pid=" + value,
+                        {source + "pid '" + value + "' in '" + path +
+                         "' names no process, nothing to terminate"}});
+    }
+    for (const auto& [content, records] : rows) {
+        WriteDeep(path, content);
         process = {};
         const CapturedLog log;
         MacService().StopServiceByPath(QString::fromStdString(home / ".Lumaport"));
-        EXPECT_EQ("", process.calls) << value;
-        EXPECT_EQ(Records{"NOTE mac/mac-service: pid '" + value + "' in '" + path +
-                          "' names no process, nothing to terminate"},
-                  log.All());
+        EXPECT_EQ("", process.calls) << content;
+        EXPECT_EQ(records, log.All());
     }
 }
 
