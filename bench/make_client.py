@@ -1,7 +1,6 @@
 """Makes a client's bundle to measure with. Needs Python 3.9 and its standard library."""
 
 import itertools
-import pathlib
 import random
 
 FILES = 3000
