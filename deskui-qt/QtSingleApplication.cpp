@@ -1,6 +1,5 @@
 #include "QtSingleApplication.h"
 
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -10,43 +9,31 @@
 #include <cerrno>
 #include <utility>
 
+#include "lib/platform/regular_file.h"
 #include "lib/platform/retry.h"
 #include "lib/platform/unique_fd.h"
 
 namespace {
 
-/// Opens the folder, which is made if it is missing. Returns 0, or the error number with `folder`
-/// not open: EPERM when others than the user own it or may write to it.
-int OpenPrivateFolder(const QByteArray& path, UniqueFd& folder) {
-    // A failure shows when the folder is opened; that it already exists is none.
-    ::mkdir(path.constData(), S_IRWXU);
-    UniqueFd opened(RetryInterrupted(
-        [&path] { return ::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
-    // The open folder is examined, not its path, which may come to name another one meanwhile.
+/// Opens the lock file of the user's home folder, which is made if it is missing. Returns 0, or the
+/// error number with `file` not open: EPERM when the file belongs to another user.
+int OpenLockFile(UniqueFd& file) {
+    const QString folder = QDir::homePath() + QStringLiteral("/.Corvimo");
+    // A failure shows when the file is opened. It is none that the folder already exists.
+    ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU);
+    const QByteArray path = QFile::encodeName(folder + QStringLiteral("/launcher.lock"));
+    UniqueFd opened =
+        OpenRegularFile(path.toStdString(), O_RDWR | O_CREAT | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    // The open file is examined, because its path may come to name another file meanwhile.
     struct stat status = {};
     if (!opened.IsOpen() || ::fstat(opened.Get(), &status) != 0) {
         return errno;
     }
-    if (status.st_uid != ::geteuid() || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0) {
+    if (status.st_uid != ::geteuid()) {
         return EPERM;
     }
-    folder = std::move(opened);
+    file = std::move(opened);
     return 0;
-}
-
-/// Opens the lock file of the user's home folder, which is made if it is missing. Returns 0, or the
-/// error number with `file` not open.
-int OpenLockFile(UniqueFd& file) {
-    UniqueFd folder;
-    const QString path = QDir::homePath() + QStringLiteral("/.Corvimo");
-    if (const int error = OpenPrivateFolder(QFile::encodeName(path), folder); error != 0) {
-        return error;
-    }
-    file = UniqueFd(RetryInterrupted([&folder] {
-        return ::openat(folder.Get(), "launcher.lock", O_RDWR | O_CREAT | O_NOFOLLOW | O_CLOEXEC,
-                        S_IRUSR | S_IWUSR);
-    }));
-    return file.IsOpen() ? 0 : errno;
 }
 
 /// Takes the lock without waiting for it. Returns 0, or the error number: EWOULDBLOCK when another

@@ -23,10 +23,11 @@ class DESKUI_EXPORT QtSingleApplication : public QApplication {
 public:
     /// Makes the application object and tries the lock; only the lock's holder is the instance.
     ///
-    /// The folder ".Corvimo" is made, for its owner alone, when only it is missing. The lock is
-    /// used only in a folder that belongs to the user and that nobody else may write to, and never
-    /// by way of a symbolic link in the lock file's place; the folder itself may be reached through
-    /// one.
+    /// The folder ".Corvimo" is made, for its owner alone, when only it is missing. It may be
+    /// reached through a symbolic link, and others may have the right to write to it. The lock file
+    /// counts when it is a regular file that belongs to the user; a symbolic link in its place is
+    /// not followed. Where others may write to the folder, they can put another file in its place:
+    /// two instances may then run at once.
     ///
     /// `argc` and `argv` must stay valid for as long as the object. `gui_enabled` has no effect: an
     /// application with widgets always has its window system. Main thread only.

@@ -1,8 +1,5 @@
 #include "lib/config.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstddef>
 #include <cstdio>
@@ -10,6 +7,8 @@
 #include <memory>
 #include <sstream>
 #include <utility>
+
+#include "lib/platform/regular_file.h"
 
 namespace {
 
@@ -81,13 +80,10 @@ using File = std::unique_ptr<FILE, CloseFile>;
 
 /// Null when the file cannot be opened.
 File OpenForReading(const std::string& path) {
-    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) {
-        return nullptr;
-    }
-    File file(fdopen(fd, "r"));
-    if (file == nullptr) {
-        close(fd);
+    UniqueFd fd = OpenRegularFile(path, O_RDONLY);
+    File file(fd.IsOpen() ? fdopen(fd.Get(), "r") : nullptr);
+    if (file != nullptr) {
+        fd.Release();
     }
     return file;
 }

@@ -24,8 +24,8 @@ public:
 
     /// Adds the entries of the file; a later line replaces an earlier one with the same key.
     ///
-    /// Returns 0 when the whole file was read. Returns -1 when the file cannot be opened or read, a
-    /// folder included: `entries` is as before then; or when a line is malformed: `entries` is
+    /// Returns 0 when the whole file was read. Returns -1 when the file cannot be opened or read, or
+    /// is no regular file: `entries` is as before then; or when a line is malformed: `entries` is
     /// empty then, whatever it held before. A line of more than 8191 bytes, its line feed included,
     /// is taken as several lines of 8191 bytes each. Nothing is logged.
     int32_t read(const std::string& path);

@@ -1,6 +1,5 @@
 #include "lib/log.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <syslog.h>
 #include <time.h>
@@ -18,6 +17,7 @@
 #include <system_error>
 
 #include "lib/config.h"
+#include "lib/platform/regular_file.h"
 
 Logger::InitConfig Logger::config;
 std::map<std::string, int32_t> Logger::log_level;
@@ -144,30 +144,48 @@ public:
     LockHolder& operator=(const LockHolder&) = delete;
 };
 
+/// Whether the log file ends with a part of a record, because a write of this process or an earlier
+/// one has failed.
+bool ends_inside_record = false;
+
+/// Whether the file's last byte is no line feed. False when it cannot be read.
+bool EndsInsideLine(const UniqueFd& file) {
+    char last = '\n';
+    return lseek(file.Get(), -1, SEEK_END) >= 0 && read(file.Get(), &last, 1) == 1 && last != '\n';
+}
+
 /// Returns null when the file cannot be opened for appending.
 FILE* OpenForAppending(const std::string& path) {
-    const int fd = open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (fd < 0) {
-        return nullptr;
-    }
-    FILE* const stream = fdopen(fd, "a");
-    if (stream == nullptr) {
-        close(fd);
+    UniqueFd fd = OpenRegularFile(path, O_RDWR | O_APPEND | O_CREAT, S_IRUSR | S_IWUSR);
+    FILE* const stream = fd.IsOpen() ? fdopen(fd.Get(), "a") : nullptr;
+    if (stream != nullptr) {
+        ends_inside_record = EndsInsideLine(fd);
+        fd.Release();
     }
     return stream;
 }
 
-/// Writes past the stream's buffer, which stays empty: one call for a record of any size, so that
-/// processes that share the file write whole lines.
-void WriteToFile(FILE* stream, std::string_view text) {
-    const int fd = fileno(stream);
+/// Writes the text. Returns false when a write fails; the text's beginning may be written then.
+bool WriteAll(int fd, std::string_view text) {
     while (!text.empty()) {
         const ssize_t written = write(fd, text.data(), text.size());
         if (written > 0) {
             text.remove_prefix(static_cast<std::size_t>(written));
+            ends_inside_record = !text.empty();
         } else if (written == 0 || errno != EINTR) {
-            return;
+            return false;
         }
+    }
+    return true;
+}
+
+/// Writes past the stream's buffer, which stays empty: one call for a record of any size, so that
+/// processes that share the file write whole lines. A record that is cut short by a full disk is
+/// ended before the next one begins.
+void WriteToFile(FILE* stream, std::string_view text) {
+    const int fd = fileno(stream);
+    if (!ends_inside_record || WriteAll(fd, "\n")) {
+        static_cast<void>(WriteAll(fd, text));  // What cannot be written is lost.
     }
 }
 

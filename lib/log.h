@@ -59,7 +59,8 @@ public:
     /// Returns 0, or -1 when memory is short, when TYPE_FILE has an empty path or when its file
     /// cannot be opened for appending; nothing is logged then until the next `Initialize`. A file
     /// of thresholds that is missing or malformed is no failure: the thresholds keep their values.
-    /// The log file is created readable and writable by its owner alone.
+    /// The log file is created readable and writable by its owner alone. Anything but a regular file
+    /// in its place cannot be opened.
     static int32_t Initialize(const InitConfig& init);
     static int32_t Initialize(Type type, const std::string& file_path,
                               const std::string& debug_config_path, int rotate_count,

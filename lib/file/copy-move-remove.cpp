@@ -176,6 +176,29 @@ int FSRename(const std::string& source, const std::string& destination, bool exa
     }
 }
 
+int FSMakeFoldersWritable(const std::string& path) {
+    struct stat status;
+    if (lstat(path.c_str(), &status) != 0) {
+        return -1;
+    }
+    if (!S_ISDIR(status.st_mode)) {
+        return 0;
+    }
+    const bool is_writable = (status.st_mode & S_IRWXU) == S_IRWXU;
+    std::vector<std::string> names;
+    if ((!is_writable && chmod(path.c_str(), (status.st_mode & 07777) | S_IRWXU) != 0) ||
+        !ReadNames(path, names)) {
+        return -1;
+    }
+    int result = 0;
+    for (const std::string& name : names) {
+        if (FSMakeFoldersWritable(path + "/" + name) != 0) {
+            result = -1;
+        }
+    }
+    return result;
+}
+
 int FSRemove(const std::string& path, bool /*unused*/) {
     _FILE_INFO_tag info;
     if (path.empty() || GetFileInfo(path, info) != 0) {

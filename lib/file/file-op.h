@@ -103,6 +103,13 @@ int FSRename(const std::string& source, const std::string& destination, bool exa
 /// be removed: the removal stops there and the rest of the tree stays.
 int FSRemove(const std::string& path, bool unused);
 
+/// Gives the owner of a folder the right to list and to change it, and every folder below it the
+/// same. Files and symbolic links stay as they are; links are not followed.
+///
+/// Returns 0, also for a file; -1 when an object cannot be inspected or a folder cannot be changed or
+/// listed. Every folder that can be reached is changed all the same. Nothing is logged.
+int FSMakeFoldersWritable(const std::string& path);
+
 // --- Folders ------------------------------------------------------------------------------------
 
 /// Creates a folder with mode 777 less the umask; with `recursive`, also every missing folder

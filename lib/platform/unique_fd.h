@@ -21,6 +21,9 @@ public:
     bool IsOpen() const { return fd_ >= 0; }
     int Get() const { return fd_; }
 
+    /// Gives the descriptor away; the caller closes it.
+    int Release() { return std::exchange(fd_, -1); }
+
     void Close() {
         if (fd_ < 0) {
             return;

@@ -1,8 +1,10 @@
 #include "lib/log.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -94,13 +96,34 @@ TEST_F(LoggerTest, RecordsAreForTheUserAloneInLocalTime) {
 }
 
 TEST_F(LoggerTest, RotatesJustAboveTheLimit) {
-    WriteFile(path, "");
-    fs::resize_file(path, kMaxFileBytes - kTimestampBytes - 1);
+    WriteFile(path, std::string(kMaxFileBytes - kTimestampBytes - 2, 'x') + "\n");
     LogTo(path);  // Takes the file's size over.
     Log("x");
     EXPECT_EQ(NamesIn(folder.path()).size(), 1U);  // Exactly the limit.
     Log("x");
     EXPECT_EQ(fs::file_size(path + "_0"), kMaxFileBytes + kTimestampBytes + 1U);
+}
+
+// A limit on the size of files cuts a record as a full disk does.
+TEST_F(LoggerTest, RecordCutByAFailedWriteIsEndedBeforeTheNextOne) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit unlimited = {};
+    getrlimit(RLIMIT_FSIZE, &unlimited);
+    for (const bool is_next_process : {false, true}) {
+        WriteFile(path, "");
+        LogTo(path);
+        Log("whole\n");
+        const rlimit small = {fs::file_size(path) + kTimestampBytes + 3, unlimited.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        Log("cut here\n");
+        Log("lost\n");
+        setrlimit(RLIMIT_FSIZE, &unlimited);
+        if (is_next_process) {
+            LogTo(path);
+        }
+        Log("next\n");
+        EXPECT_EQ(Texts(path), "whole\ncut\nnext\n");
+    }
 }
 
 TEST_F(LoggerTest, RotationKeepsTheNewestFiles) {

@@ -1,16 +1,19 @@
 #include "cloud-service.h"
 
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QSettings>
 #include <array>
 #include <cstdio>
 #include <vector>
 
 #include "UIPathManager.h"
+#include "client_bundle.h"
 #include "extractor.h"
 #include "lib/file/file-op.h"
 #include "lib/log.h"
+#include "version_file.h"
 
 #define LOG_SOURCE "cloud-service"
 
@@ -33,16 +36,14 @@ struct VersionFields {
     std::string& icon_overlay;
 };
 
-void LoadValue(const QSettings& info, const char* key, std::string& field) {
-    const QString name = QLatin1String(key);
-    if (info.contains(name)) {
-        field = info.value(name).toString().toStdString();
+void LoadValue(const VersionFile& info, const char* key, std::string& field) {
+    if (const auto value = info.Value(key)) {
+        field = *value;
     }
 }
 
 void LoadVersion(const QString& path, const char* side, const VersionFields& fields) {
-    QSettings info(path, QSettings::IniFormat);
-    info.beginGroup(QStringLiteral("Version"));
+    const VersionFile info(path);
     LoadValue(info, "major_version", fields.major);
     LoadValue(info, "minor_version", fields.minor);
     LoadValue(info, "build_version", fields.build);
@@ -64,10 +65,10 @@ std::string GetAppBackupDir(const std::string& path, int index) {
     return base + suffix.data();
 }
 
-// Whether there is an old bundle to keep. A no is asked again: were one that cannot be inspected just
-// then taken for missing, the package would be unpacked over it.
+// Whether there is an old bundle to keep. A bundle that cannot be inspected counts as one: if it were
+// taken for missing, the package would be unpacked over it.
 bool HasOldApp(const std::string& app) {
-    return IsFileExist(app, false) || IsFileExist(app, false);
+    return !IsSurelyMissing(app);
 }
 
 // Moves the bundle aside. Returns the index of the backup's name, or -1 when no name was free.
@@ -84,34 +85,149 @@ int BackUp(const std::string& app) {
     return -1;
 }
 
+// Where the registered parts of the per-user bundle lie in any copy of it.
+BundleParts PartsOfBundle() {
+    const auto prefix = Service::RegisteredPath("user_corvimo_app_path").size();
+    const QString resources = Service::RegisteredPath("user_corvimo_resource_path").mid(prefix);
+    return {Service::RegisteredPath("user_corvimo_ui_path").mid(prefix).toStdString(),
+            (resources + QLatin1String("/INFO")).toStdString()};
+}
+
 void RemoveBackups(const std::string& app, int last_index) {
     LOG_MSG(INFO, "user installation is ready, removing backup app");
     for (int index = 0; index <= last_index; ++index) {
         // One that stays is tried again by the next upgrade that finds its name taken.
-        static_cast<void>(FSRemove(GetAppBackupDir(app, index), false));
+        static_cast<void>(RemoveBundle(GetAppBackupDir(app, index), PartsOfBundle()));
     }
+}
+
+// Renames what cannot be removed: to a free backup name, or where none is free, to a random name.
+bool MoveAside(const std::string& path, const std::string& app) {
+    for (int index = 0; index < kBackupNames; ++index) {
+        const std::string backup = GetAppBackupDir(app, index);
+        if (IsSurelyMissing(backup) && FSRename(path, backup, false) == 0) {
+            return true;
+        }
+    }
+    std::string name;
+    return FSCreateTempPath(FSParentPath(app), name) == 0 && FSRename(path, name, false) == 0;
+}
+
+// Sees to it that nothing stands at the bundle's path.
+bool ClearPlace(const std::string& app) {
+    return RemoveBundle(app, PartsOfBundle()) || MoveAside(app, app);
 }
 
 void RollBack(const std::string& app, const std::string& backup) {
     LOG_MSG(ERROR, "Failed to extract package, rollback to old installation");
-    // Nothing is left to try when either fails: the old bundle is whole under the backup's name.
-    static_cast<void>(FSRemove(app, false));
+    // When either fails, the old bundle is whole under the backup's name, and EnsureWholeClient tries
+    // again.
+    static_cast<void>(ClearPlace(app));
     static_cast<void>(FSRename(backup, app, false));
 }
 
-// Whether there certainly is no such object, as opposed to one that is spelled otherwise or that
-// cannot be inspected.
-bool IsSurelyMissing(const std::string& path) {
-    _FILE_INFO_tag info;
-    return GetFileInfo(path, info) == 0 && !info.exists;
+struct Backup {
+    std::string path;
+    ClientBundle bundle;
+};
+
+std::vector<Backup> InspectBackups(const std::string& app) {
+    const BundleParts parts = PartsOfBundle();
+    std::vector<Backup> backups;
+    for (int index = 0; index < kBackupNames; ++index) {
+        const std::string path = GetAppBackupDir(app, index);
+        backups.push_back({path, InspectBundle(path, parts)});
+    }
+    return backups;
+}
+
+// The whole backup with the greatest build; of equals the one with the highest index, which is the
+// newest. Null when none is whole.
+const Backup* BestBackup(const std::vector<Backup>& backups) {
+    const Backup* best = nullptr;
+    for (const Backup& backup : backups) {
+        if (backup.bundle.state == ClientBundle::kWhole &&
+            (best == nullptr || backup.bundle.build >= best->bundle.build)) {
+            best = &backup;
+        }
+    }
+    return best;
+}
+
+void RemoveTorsos(const std::vector<Backup>& backups) {
+    for (const Backup& backup : backups) {
+        if (backup.bundle.state == ClientBundle::kTorso) {
+            // One that stays costs nothing but room.
+            static_cast<void>(RemoveBundle(backup.path, PartsOfBundle()));
+        }
+    }
+}
+
+// Puts the best backup in the place of a bundle that is not whole. Returns whether it has.
+bool PutBackBestBackup(const std::string& app) {
+    const std::vector<Backup> backups = InspectBackups(app);
+    const Backup* const best = BestBackup(backups);
+    if (best == nullptr) {
+        return false;
+    }
+    if (!ClearPlace(app) || FSRename(best->path, app, false) != 0) {
+        LOG_MSG(ERROR, "failed to put back client from '%s' -> '%s'", best->path.c_str(),
+                app.c_str());
+        return false;
+    }
+    RemoveTorsos(backups);
+    LOG_MSG(NOTE, "client was not whole, put back build %s from '%s'",
+            std::to_string(best->bundle.build).c_str(), best->path.c_str());
+    return true;
+}
+
+// Frees the backup names before interruptions have used up all of them. Whole backups go only when
+// the installed client is whole.
+void FreeBackupNames(const std::string& app, bool is_whole) {
+    if (IsSurelyMissing(GetAppBackupDir(app, kBackupNames - 1))) {
+        return;
+    }
+    for (const Backup& backup : InspectBackups(app)) {
+        const bool may_go = is_whole || backup.bundle.state == ClientBundle::kTorso;
+        if (may_go && !RemoveBundle(backup.path, PartsOfBundle())) {
+            std::string name;
+            // Under a random name it takes up nothing but room.
+            static_cast<void>(FSCreateTempPath(FSParentPath(app), name) == 0 &&
+                              FSRename(backup.path, name, false) == 0);
+        }
+    }
+}
+
+// Where a folder tells that the older product's data has begun to move. Without it, data that is
+// found in the new place belongs to the client.
+std::string UnfinishedMoveMark() {
+    return NativePath(Service::RegisteredPath("user_lumaport_path") +
+                      QLatin1String("/data_moving"));
 }
 
 // Moves the older product's data. False when data is left behind.
 bool MoveData(const std::string& old_data, const std::string& new_data) {
-    if (IsFileExist(old_data, true)) {
-        return FSRename(old_data, new_data, true) >= 0;
+    if (!IsFileExist(old_data, true)) {
+        return IsSurelyMissing(old_data);
     }
-    return IsSurelyMissing(old_data);
+    const std::string mark = UnfinishedMoveMark();
+    // An empty folder is in nobody's way. rmdir tells reliably that it is empty.
+    const bool is_free = IsSurelyMissing(new_data) || rmdir(new_data.c_str()) == 0;
+    if (!is_free && !IsFileExist(mark, true)) {
+        return false;
+    }
+    // Without the mark an interrupted move to another volume is not resumed, but nothing is lost.
+    static_cast<void>(FSMKDir(mark, false));
+    return FSRename(old_data, new_data, true) >= 0;
+}
+
+// Once a client is installed, the data folder is the client's: nothing may be merged into it.
+void ForgetUnfinishedMove() {
+    const std::string mark = UnfinishedMoveMark();
+    if (IsFileExist(mark, true)) {
+        // A mark that stays is removed on the next start.
+        static_cast<void>(FSRemove(mark, false));
+    }
 }
 
 bool IsDotOrDotDot(const std::string& name) {
@@ -194,6 +310,18 @@ int Service::PrepareUserEnv() {
     return -1;
 }
 
+void Service::EnsureWholeClient() {
+    const ClientBundle::State state = InspectBundle(user_app_path, PartsOfBundle()).state;
+    if (state == ClientBundle::kUnknown) {
+        return;
+    }
+    const bool is_whole = state == ClientBundle::kWhole || PutBackBestBackup(user_app_path);
+    if (is_whole) {
+        ForgetUnfinishedMove();
+    }
+    FreeBackupNames(user_app_path, is_whole);
+}
+
 void Service::MigrateService() {
     const QString old_root = RegisteredPath("user_lumaport_path");
     const QString new_root = RegisteredPath("user_corvimo_path");
@@ -206,11 +334,15 @@ void Service::MigrateService() {
         LOG_MSG(ERROR, "Failed to create Corvimo folder");
         return;
     }
-    if (!MoveData(old_data, new_data)) {
+    _FILE_INFO_tag old;
+    if (FSStat(old_folder, old, true) < 0 || !old.exists || old.type == FILE_TYPE_LINK) {
+        return;  // What lies behind a symbolic link may be used by others, too.
+    }
+    if (old.type == FILE_TYPE_DIR && !MoveData(old_data, new_data)) {
         LOG_MSG(ERROR, "Failed to move data to Corvimo folder");
         return;  // Removing the old folder now would destroy the data that is still in it.
     }
-    if (IsFileExist(old_folder, true) && FSRemove(old_folder, false) < 0) {
+    if (FSRemove(old_folder, false) < 0) {
         LOG_MSG(ERROR, "Failed to remove old .Lumaport folder");
     }
 }

@@ -49,19 +49,35 @@ public:
     virtual void LoadSourceVersion();
     virtual void LoadTargetVersion();
 
+    /// Sees to it that a client which was moved aside does not lie unused while what is at the
+    /// per-user bundle's path is not whole: missing, without an executable file, or without an INFO
+    /// that names a whole number as its build.
+    ///
+    /// Then the whole backup with the greatest build is renamed to that path, and backups that are
+    /// not whole are removed. Nothing whole is removed before another whole bundle is in its place;
+    /// killed or failing half-way, the next call begins anew. Without a whole backup everything stays
+    /// as it is. When the last backup name is taken, names are freed: whole backups go only when the
+    /// installed client is whole. To be called first in a run, and after an installation.
+    void EnsureWholeClient();
+
     /// Moves the per-user bundle aside, unpacks the package in its place, and then removes the copy
     /// that was moved aside, or moves it back when the package could not be unpacked.
     ///
     /// Returns 0 with the package installed and the backups up to the name that was used removed, as
     /// far as they could be; or -1 with the old bundle in its place again (where moving it back
     /// fails, it is whole under a backup name). Without an old bundle a failure leaves what was
-    /// unpacked. Killed half-way, it leaves the old bundle under a
-    /// backup name and a bundle without INFO, which the next start installs anew.
+    /// unpacked. What was unpacked and cannot be removed goes to a free backup name. Killed
+    /// half-way, it leaves the old bundle under a backup name, and `EnsureWholeClient` puts it back.
     virtual int PrepareUserEnv();
 
     /// Moves the data of the older product into the per-user folder and removes the older product's
-    /// folder. When the data cannot be moved, nothing in that folder is removed; a move to another
-    /// volume that stops half-way leaves there what had arrived.
+    /// folder.
+    ///
+    /// Where the new data folder already holds something, nothing is moved and nothing removed. When
+    /// the data cannot be moved, nothing in the old folder is removed; a move to another volume that
+    /// stops half-way leaves there what had arrived. A move that was interrupted is resumed by the
+    /// next call, until `EnsureWholeClient` finds a whole client. An old folder that is a symbolic
+    /// link or is reached through one is left alone.
     virtual void MigrateService();
 
     /// Removes the application folder of the older product, if there is one.

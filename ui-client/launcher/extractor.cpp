@@ -7,7 +7,6 @@
 #include <cerrno>
 #include <climits>
 #include <cstdio>
-#include <cstring>
 #include <memory>
 
 #include "lib/file/file-op.h"
@@ -76,32 +75,48 @@ Reader OpenForReading(const Extractor& extractor) {
     return reader;
 }
 
-// The destination without symbolic links on the way to it: libarchive removes every one that it
-// meets on the way to a hard link's target, and those above the destination are the person's.
-std::string LinkRoot(std::string destination) {
-    // A folder that cannot be resolved cannot be extracted into either.
-    static_cast<void>(FSGetRealPath(destination));
-    return destination;
-}
-
 // A hard link names another entry, so its target lies under the destination as the entry itself
-// does.
-void MoveUnder(const std::string& destination, const char* name, archive_entry* entry) {
-    archive_entry_set_pathname(entry, (destination + "/" + name).c_str());
+// does. False when the destination cannot be resolved.
+//
+// The target gets the destination without symbolic links among its folders: libarchive removes every
+// one that it meets there, and those above the destination are the person's.
+bool MoveLinkUnder(std::string destination, archive_entry* entry) {
     const char* const linked = archive_entry_hardlink(entry);
-    if (linked != nullptr) {
-        archive_entry_set_hardlink(entry, (LinkRoot(destination) + "/" + linked).c_str());
+    if (linked == nullptr) {
+        return true;
     }
+    if (FSGetRealPath(destination) != 0) {
+        return false;
+    }
+    archive_entry_set_hardlink(entry, (destination + "/" + linked).c_str());
+    return true;
 }
 
-// archive_read_extract2, but for a path longer than the system takes. libarchive would make that by
-// way of the process's working folder, and nobody could use or remove what it has made.
-int ExtractUsable(archive* reader, archive_entry* entry, archive* writer) {
-    if (std::strlen(archive_entry_pathname(entry)) >= PATH_MAX) {
+// archive_read_extract2 below the destination. Refuses a path longer than the system takes: libarchive
+// would make it by changing the process's working folder, and nobody could use or remove the file.
+int ExtractUnder(const std::string& destination, const char* name, archive* reader,
+                 archive_entry* entry, archive* writer) {
+    const std::string path = destination + "/" + name;
+    if (path.size() >= PATH_MAX) {
         archive_set_error(writer, ENAMETOOLONG, "Path too long");
         return ARCHIVE_FAILED;
     }
+    if (!MoveLinkUnder(destination, entry)) {
+        archive_set_error(writer, ENOENT, "Cannot resolve '%s'", destination.c_str());
+        return ARCHIVE_FAILED;
+    }
+    archive_entry_set_pathname(entry, path.c_str());
     return archive_read_extract2(reader, entry, writer);
+}
+
+// libarchive leaves the writer's text empty where the reader or the disk has failed.
+void LogFailedExtraction(archive* reader, archive* writer) {
+    const char* const text = ErrorString(writer);
+    LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'", text);
+    const char* const cause = ErrorString(reader);
+    if (*text == '\0' && *cause != '\0') {
+        LOG_MSG(WARNING, "reading the package: '%s'", cause);
+    }
 }
 
 }  // namespace
@@ -194,9 +209,8 @@ int Extractor::ExtractEntry(archive* reader, archive* writer, archive_entry* ent
         LOG_MSG(ERROR, "archive_entry_pathname failed");
         return -1;
     }
-    MoveUnder(destination, name, entry);
-    if (ExtractUsable(reader, entry, writer) != ARCHIVE_OK) {
-        LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'", ErrorString(writer));
+    if (ExtractUnder(destination, name, reader, entry, writer) != ARCHIVE_OK) {
+        LogFailedExtraction(reader, writer);
         return -1;
     }
     Notify_Adapter::GetInstance()->UpdateProgress(total, index);

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QIcon>
+#include <QTimer>
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -65,6 +66,10 @@ void Worker::StartThread() {
     handler_thread_->start(QThread::InheritPriority);
 }
 
+bool Worker::IsThreadRunning() const {
+    return handler_thread_->isRunning();
+}
+
 void Worker::QuitThread() {
     handler_thread_->quit();
 }
@@ -75,6 +80,7 @@ void Worker::JoinThread() {
 
 void Worker::HandleServicce() {
     LOG_MSG_AT(kLineRunning, DEBUG, "running");
+    service_->EnsureWholeClient();
     service_->PreUpgrade();
     if (service_->IsNeedUpgrade()) {
         InstallPackage();
@@ -90,12 +96,14 @@ void Worker::HandleServicce() {
 
 void Worker::InstallPackage() {
     Q_EMIT sigShowMsg();
-    if (service_->HandlePackageUpgrade() != 0) {
+    if (service_->HandlePackageUpgrade() == 0) {
+        Q_EMIT sigUpdateProgress(kBarMaximum, kBarMaximum);
+        Q_EMIT sigSetLabelText(StrTable::LoadStrWithAppName(StrTable::kReady));
+    } else {
         LOG_MSG_AT(kLineFailed, ERROR, "Failed to upgrade package");
-        return;
     }
-    Q_EMIT sigUpdateProgress(kBarMaximum, kBarMaximum);
-    Q_EMIT sigSetLabelText(StrTable::LoadStrWithAppName(StrTable::kReady));
+    // Where putting the old client back has failed, this is another try.
+    service_->EnsureWholeClient();
 }
 
 // Given no text for a cancel button, the base makes none, and so has nothing to measure.
@@ -157,7 +165,15 @@ void Launcher::Run() {
 }
 
 void Launcher::Start() {
-    Q_EMIT sigStart();
+    if (worker_->IsThreadRunning()) {
+        Q_EMIT sigStart();
+        return;
+    }
+    // The system has given no thread. The worker's sequence runs on this one, and from the event
+    // loop: before the loop has begun, the call that ends the application has no effect.
+    QTimer::singleShot(0, this, [this] {
+        QMetaObject::invokeMethod(worker_, "HandleServicce", Qt::DirectConnection);
+    });
 }
 
 void Launcher::LaunchDone() {

@@ -22,7 +22,7 @@ protected:
 
 /// Runs the installation service through its fixed sequence.
 ///
-/// Made on the main thread; lives on its own thread from then on. It is destroyed on the main
+/// Made on the main thread; belongs to its own thread from then on. It is destroyed on the main
 /// thread after its own thread has finished.
 class Worker : public QObject {
     Q_OBJECT
@@ -31,10 +31,12 @@ public:
     Worker();
     ~Worker() override;
 
+    /// Starts the thread, unless the system refuses to make another one.
     void StartThread();
+    bool IsThreadRunning() const;
     void QuitThread();
 
-    /// Waits without a limit until the thread has finished.
+    /// Waits without a limit until the thread has finished. Returns at once if it never started.
     void JoinThread();
 
 Q_SIGNALS:
@@ -83,7 +85,8 @@ public:
     /// Starts the worker's thread.
     void Run();
 
-    /// Has the worker begin. The application quits when the worker is done.
+    /// Has the worker begin: on its own thread, or where the system refused to make one, on the main
+    /// thread once the event loop runs. The application quits when the worker is done.
     void Start();
 
 Q_SIGNALS:

@@ -131,8 +131,11 @@ int RunLauncher() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Standard output may be a pipe that nobody reads.
-    static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+    // Standard output may be a pipe that nobody reads. The others come from a log-out or a closed
+    // terminal: an installation that has begun goes to its end.
+    for (const int signal : {SIGPIPE, SIGTERM, SIGHUP, SIGINT}) {
+        static_cast<void>(std::signal(signal, SIG_IGN));
+    }
     // A parent that ignored it would leave us without the results of the tools that we start.
     static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
     // An environment that names no installed locale leaves the C locale, which serves as well.

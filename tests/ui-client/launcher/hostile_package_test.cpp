@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "extractor.h"
 #include "lib/file/file-op.h"
 #include "mac/mac-service.h"
 #include "tests/support/captured_log.h"
@@ -149,8 +150,8 @@ TEST_F(HostilePackage, DamagedAnywhere) {
     }
 }
 
-// The last folders lie deeper than a path reaches: the link has been the way to them.
-TEST_F(HostilePackage, WhatIsTooDeepToRemoveLeavesTheOldClientUnderABackupName) {
+// The last folders lie deeper than a path reaches: they were made through the link.
+TEST_F(HostilePackage, WhatIsTooDeepToRemoveIsMovedAside) {
     const TreeSnapshot old = Snapshot(home.app);
     home.Pack({{Levels(1900), "", kFolder},
                {"way", Levels(1900), kSymbolicLink},
@@ -158,8 +159,29 @@ TEST_F(HostilePackage, WhatIsTooDeepToRemoveLeavesTheOldClientUnderABackupName) 
                {"../outside", "x"}},
               ".tar");
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
-    EXPECT_EQ(old, Snapshot(home.app + "_tmp"));
-    EXPECT_EQ(0, FSRemove(home.app + "/way/d", false));
+    EXPECT_EQ(old, Snapshot(home.app));
+    EXPECT_EQ(0, FSRemove(home.app + "_tmp1/way/d", false));
+}
+
+TEST_F(HostilePackage, LogsWhyAnEntryCannotBeExtracted) {
+    std::string content;
+    for (unsigned i = 0; i < 9999; ++i) {
+        content += static_cast<char>(i * i >> 7);
+    }
+    home.Pack({{"a", content}});
+    fs::resize_file(home.package, fs::file_size(home.package) / 2);
+    Install();
+    Extractor extractor;
+    extractor.destination = home / "missing";
+    extractor.archive_path = home.package;
+    home.Pack({{"hard", "a", kHardLink}}, ".tar");
+    EXPECT_EQ(-1, extractor.Extract());
+    const std::string failed = "ERROR extractor: archive_read_extract2 failed: '";
+    EXPECT_EQ(
+        (Records{failed + "'", "WARNING extractor: reading the package: 'Truncated ZIP file data'",
+                 "ERROR cloud-service: Failed to extract package, rollback to old installation",
+                 failed + "Cannot resolve '" + home / "missing" + "''"}),
+        log.All());
 }
 
 TEST_F(HostilePackage, WhatItMakesCanBeCopiedHoweverDeep) {

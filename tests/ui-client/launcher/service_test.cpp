@@ -155,3 +155,17 @@ TEST(MigrateService, LosesNoData) {
         EXPECT_EQ(kError + message, log.All().back());
     }
 }
+
+TEST(MigrateService, LeavesALinkAloneAndRemovesAFile) {
+    const PrivateHome home;
+    const CapturedLog log;
+    WriteDeep(home / "elsewhere/data/file", "data");
+    fs::create_directory_symlink("elsewhere", home / ".Lumaport");
+    MacService().MigrateService();
+    EXPECT_EQ("data", ReadFile(home / ".Lumaport/data/file"));
+    fs::remove(home / ".Lumaport");
+    WriteFile(home / ".Lumaport", "no folder");
+    MacService().MigrateService();
+    EXPECT_FALSE(fs::exists(home / ".Lumaport"));
+    EXPECT_EQ(Records(), log.All());
+}

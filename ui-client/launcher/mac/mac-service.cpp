@@ -50,7 +50,9 @@ pid_t StartTool(const std::string& tool, const std::vector<std::string>& argumen
     argv.push_back(nullptr);
     sigset_t ignored_here;
     static_cast<void>(sigemptyset(&ignored_here));
-    static_cast<void>(sigaddset(&ignored_here, SIGPIPE));
+    for (const int signal : {SIGPIPE, SIGTERM, SIGHUP, SIGINT}) {
+        static_cast<void>(sigaddset(&ignored_here, signal));
+    }
     posix_spawnattr_t attributes;
     if (posix_spawnattr_init(&attributes) != 0) {
         return -1;
