@@ -1,17 +1,23 @@
 #include "client_bundle.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QString>
+#include <array>
 #include <cerrno>
 #include <charconv>
 #include <optional>
 #include <system_error>
 
 #include "lib/file/file-op.h"
+#include "lib/platform/regular_file.h"
+#include "lib/platform/retry.h"
 #include "version_file.h"
 
 namespace {
+
+constexpr const char* kBuildKey = "build_version";
 
 bool IsMissingError(int error) {
     return error == ENOENT || error == ENOTDIR;
@@ -35,6 +41,33 @@ ClientBundle::State StateOfExecutable(const std::string& path) {
     return can_start ? ClientBundle::kWhole : ClientBundle::kTorso;
 }
 
+// Whether INFO names a build, or may name one. QSettings takes a file that it cannot read for an empty
+// one, so a missing value is only believed when the file can be read here and does not name the key.
+bool MayNameBuild(const std::string& path) {
+    const UniqueFd file = OpenRegularFile(path, O_RDONLY);
+    if (!file.IsOpen()) {
+        return !IsMissingError(errno) && errno != ELOOP && errno != EINVAL;
+    }
+    std::string text;
+    std::array<char, 4096> block;
+    ssize_t count = 0;
+    while ((count = RetryInterrupted(
+                [&] { return read(file.Get(), block.data(), block.size()); })) > 0) {
+        text.append(block.data(), static_cast<std::size_t>(count));
+    }
+    return count < 0 || text.find(kBuildKey) != std::string::npos;
+}
+
+ClientBundle InspectInfo(const std::string& path) {
+    const auto value = VersionFile(QString::fromStdString(path)).Value(kBuildKey);
+    if (!value.has_value() && MayNameBuild(path)) {
+        return {ClientBundle::kUnknown};
+    }
+    const std::optional<int64_t> build = WholeNumber(value.value_or(""));
+    return build.has_value() ? ClientBundle{ClientBundle::kWhole, *build}
+                             : ClientBundle{ClientBundle::kTorso};
+}
+
 // Removes INFO unless it is reached through a symbolic link, which may lead out of the bundle.
 void RemoveInfo(const std::string& path, const std::string& info) {
     _FILE_INFO_tag bundle;
@@ -53,12 +86,7 @@ ClientBundle InspectBundle(const std::string& path, const BundleParts& parts) {
         return {ClientBundle::kMissing};
     }
     const ClientBundle::State state = StateOfExecutable(path + parts.executable);
-    if (state != ClientBundle::kWhole) {
-        return {state};
-    }
-    const VersionFile info(QString::fromStdString(path + parts.info));
-    const std::optional<int64_t> build = WholeNumber(info.Value("build_version").value_or(""));
-    return build.has_value() ? ClientBundle{state, *build} : ClientBundle{ClientBundle::kTorso};
+    return state == ClientBundle::kWhole ? InspectInfo(path + parts.info) : ClientBundle{state};
 }
 
 bool RemoveBundle(const std::string& path, const BundleParts& parts) {

@@ -20,7 +20,7 @@ struct ClientBundle {
         kUnknown  ///< The system refused to tell.
     };
     State state = kUnknown;
-    int64_t build = 0;  ///< Of a whole bundle only.
+    int64_t build = 0;  ///< Of a whole bundle; 0 otherwise.
 };
 
 /// Inspects the bundle at `path`. Nothing is logged.

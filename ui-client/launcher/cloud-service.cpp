@@ -101,21 +101,25 @@ void RemoveBackups(const std::string& app, int last_index) {
     }
 }
 
-// Renames what cannot be removed: to a free backup name, or where none is free, to a random name.
-bool MoveAside(const std::string& path, const std::string& app) {
+// Gives something that cannot be removed a name that nobody needs.
+bool MoveToRandomName(const std::string& path) {
+    std::string name;
+    return FSCreateTempPath(FSParentPath(path), name) == 0 && FSRename(path, name, false) == 0;
+}
+
+bool MoveToFreeBackupName(const std::string& app) {
     for (int index = 0; index < kBackupNames; ++index) {
         const std::string backup = GetAppBackupDir(app, index);
-        if (IsSurelyMissing(backup) && FSRename(path, backup, false) == 0) {
+        if (IsSurelyMissing(backup) && FSRename(app, backup, false) == 0) {
             return true;
         }
     }
-    std::string name;
-    return FSCreateTempPath(FSParentPath(app), name) == 0 && FSRename(path, name, false) == 0;
+    return false;
 }
 
-// Sees to it that nothing stands at the bundle's path.
+// Sees to it that nothing is at the bundle's path.
 bool ClearPlace(const std::string& app) {
-    return RemoveBundle(app, PartsOfBundle()) || MoveAside(app, app);
+    return RemoveBundle(app, PartsOfBundle()) || MoveToFreeBackupName(app) || MoveToRandomName(app);
 }
 
 void RollBack(const std::string& app, const std::string& backup) {
@@ -190,10 +194,8 @@ void FreeBackupNames(const std::string& app, bool is_whole) {
     for (const Backup& backup : InspectBackups(app)) {
         const bool may_go = is_whole || backup.bundle.state == ClientBundle::kTorso;
         if (may_go && !RemoveBundle(backup.path, PartsOfBundle())) {
-            std::string name;
-            // Under a random name it takes up nothing but room.
-            static_cast<void>(FSCreateTempPath(FSParentPath(app), name) == 0 &&
-                              FSRename(backup.path, name, false) == 0);
+            // Where this fails, the next start tries again.
+            static_cast<void>(MoveToRandomName(backup.path));
         }
     }
 }
