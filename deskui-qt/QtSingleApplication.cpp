@@ -19,7 +19,7 @@ namespace {
 /// error number with `file` not open: EPERM when the file belongs to another user.
 int OpenLockFile(UniqueFd& file) {
     const QString folder = QDir::homePath() + QStringLiteral("/.Corvimo");
-    // A failure shows when the file is opened. It is none that the folder already exists.
+    // A failure shows when the file is opened. That the folder already exists is no failure.
     ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU);
     const QByteArray path = QFile::encodeName(folder + QStringLiteral("/launcher.lock"));
     UniqueFd opened =

@@ -149,17 +149,20 @@ public:
 bool ends_inside_record = false;
 
 /// Whether the file's last byte is no line feed. False when it cannot be read.
-bool EndsInsideLine(const UniqueFd& file) {
+bool EndsInsideLine(int fd) {
     char last = '\n';
-    return lseek(file.Get(), -1, SEEK_END) >= 0 && read(file.Get(), &last, 1) == 1 && last != '\n';
+    return lseek(fd, -1, SEEK_END) >= 0 && read(fd, &last, 1) == 1 && last != '\n';
 }
 
 /// Returns null when the file cannot be opened for appending.
 FILE* OpenForAppending(const std::string& path) {
     UniqueFd fd = OpenRegularFile(path, O_RDWR | O_APPEND | O_CREAT, S_IRUSR | S_IWUSR);
+    if (!fd.IsOpen() && errno == EACCES) {
+        fd = OpenRegularFile(path, O_WRONLY | O_APPEND);  // It may be written to, but not read.
+    }
     FILE* const stream = fd.IsOpen() ? fdopen(fd.Get(), "a") : nullptr;
     if (stream != nullptr) {
-        ends_inside_record = EndsInsideLine(fd);
+        ends_inside_record = EndsInsideLine(fd.Get());
         fd.Release();
     }
     return stream;
@@ -184,7 +187,9 @@ bool WriteAll(int fd, std::string_view text) {
 /// ended before the next one begins.
 void WriteToFile(FILE* stream, std::string_view text) {
     const int fd = fileno(stream);
-    if (!ends_inside_record || WriteAll(fd, "\n")) {
+    // Another process may have ended the record meanwhile.
+    const bool is_cut = ends_inside_record && EndsInsideLine(fd);
+    if (!is_cut || WriteAll(fd, "\n")) {
         static_cast<void>(WriteAll(fd, text));  // What cannot be written is lost.
     }
 }

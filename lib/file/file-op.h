@@ -107,7 +107,8 @@ int FSRemove(const std::string& path, bool unused);
 /// same. Files and symbolic links stay as they are; links are not followed.
 ///
 /// Returns 0, also for a file; -1 when an object cannot be inspected or a folder cannot be changed or
-/// listed. Every folder that can be reached is changed all the same. Nothing is logged.
+/// listed. The other folders are changed all the same, but for those below such a folder. Nothing is
+/// logged.
 int FSMakeFoldersWritable(const std::string& path);
 
 // --- Folders ------------------------------------------------------------------------------------

@@ -4,10 +4,12 @@
 #include <unistd.h>
 
 #include <QString>
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
 #include <optional>
+#include <sstream>
 #include <system_error>
 
 #include "lib/file/file-op.h"
@@ -41,41 +43,91 @@ ClientBundle::State StateOfExecutable(const std::string& path) {
     return can_start ? ClientBundle::kWhole : ClientBundle::kTorso;
 }
 
-// Whether INFO names a build, or may name one. QSettings takes a file that it cannot read for an empty
-// one, so a missing value is only believed when the file can be read here and does not name the key.
-bool MayNameBuild(const std::string& path) {
+// Reads the whole file. Returns 0, also with an empty text for a missing file and for anything but a
+// regular file; otherwise -1.
+int ReadText(const std::string& path, std::string& text) {
     const UniqueFd file = OpenRegularFile(path, O_RDONLY);
     if (!file.IsOpen()) {
-        return !IsMissingError(errno) && errno != ELOOP && errno != EINVAL;
+        // The last two are the answers for a socket.
+        const bool is_no_file = IsMissingError(errno) || errno == ELOOP || errno == EINVAL ||
+                                errno == ENXIO || errno == EOPNOTSUPP;
+        return is_no_file ? 0 : -1;
     }
-    std::string text;
     std::array<char, 4096> block;
     ssize_t count = 0;
-    while ((count = RetryInterrupted(
-                [&] { return read(file.Get(), block.data(), block.size()); })) > 0) {
-        text.append(block.data(), static_cast<std::size_t>(count));
-    }
-    return count < 0 || text.find(kBuildKey) != std::string::npos;
+    do {
+        count = RetryInterrupted([&] { return read(file.Get(), block.data(), block.size()); });
+        text.append(block.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    } while (count > 0);
+    return count == 0 ? 0 : -1;
 }
 
+std::string Trimmed(const std::string& text) {
+    const char* const blanks = " \t\r";
+    const std::size_t begin = text.find_first_not_of(blanks);
+    return begin == std::string::npos
+               ? std::string()
+               : text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+}
+
+// The build in the text of an INFO file; empty when it names none.
+std::string BuildInText(const std::string& text) {
+    std::istringstream lines(text);
+    std::string build;
+    bool is_in_group = false;
+    for (std::string line; std::getline(lines, line);) {
+        line = Trimmed(line);
+        const std::size_t equals = line.find('=');
+        if (!line.empty() && line[0] == '[') {
+            is_in_group = line == "[Version]";
+        } else if (is_in_group && equals != std::string::npos &&
+                   Trimmed(line.substr(0, equals)) == kBuildKey) {
+            build = Trimmed(line.substr(equals + 1));
+        }
+    }
+    return build;
+}
+
+// QSettings takes a file that it could not read for an empty one, and keeps the empty content for the
+// life of the process. So a file without a value is read here once more.
 ClientBundle InspectInfo(const std::string& path) {
-    const auto value = VersionFile(QString::fromStdString(path)).Value(kBuildKey);
-    if (!value.has_value() && MayNameBuild(path)) {
-        return {ClientBundle::kUnknown};
+    std::optional<std::string> build = VersionFile(QString::fromStdString(path)).Value(kBuildKey);
+    if (!build.has_value()) {
+        std::string text;
+        if (ReadText(path, text) != 0) {
+            return {ClientBundle::kUnknown};
+        }
+        build = BuildInText(text);
     }
-    const std::optional<int64_t> build = WholeNumber(value.value_or(""));
-    return build.has_value() ? ClientBundle{ClientBundle::kWhole, *build}
-                             : ClientBundle{ClientBundle::kTorso};
+    const std::optional<int64_t> number = WholeNumber(*build);
+    return number.has_value() ? ClientBundle{ClientBundle::kWhole, *number}
+                              : ClientBundle{ClientBundle::kTorso};
 }
 
-// Removes INFO unless it is reached through a symbolic link, which may lead out of the bundle.
-void RemoveInfo(const std::string& path, const std::string& info) {
+// Removes one file of the bundle, unless a symbolic link leads out of the bundle to it. Returns whether
+// nothing is there any more.
+bool RemovePart(const std::string& path, const std::string& part) {
     _FILE_INFO_tag bundle;
     _FILE_INFO_tag file;
-    if (GetFileInfo(path, bundle) == 0 && GetFileInfo(path + info, file) == 0 &&
-        bundle.type == FILE_TYPE_DIR && file.path == bundle.path + info) {
-        // The removal of the whole bundle comes next, and tells whether anything stays.
-        static_cast<void>(FSRemove(path + info, false));
+    if (GetFileInfo(path, bundle) == 0 && GetFileInfo(path + part, file) == 0 &&
+        bundle.type == FILE_TYPE_DIR && FSIsParentFolder(bundle.path, file.path)) {
+        static_cast<void>(FSRemove(path + part, false));  // What stays is looked for below.
+    }
+    return IsSurelyMissing(path + part);
+}
+
+// Removes INFO, and where INFO stays, the executable: whatever interrupts the removal from here on, what
+// is left does not count as whole.
+void MakeTorso(const std::string& path, const BundleParts& parts) {
+    for (const std::string& part : {parts.info, parts.executable}) {
+        if (RemovePart(path, part)) {
+            return;
+        }
+        // A folder that stays as it is shows in the next attempt.
+        static_cast<void>(FSMakeFoldersWritable(path));
+        if (RemovePart(path, part)) {
+            return;
+        }
     }
 }
 
@@ -90,13 +142,14 @@ ClientBundle InspectBundle(const std::string& path, const BundleParts& parts) {
 }
 
 bool RemoveBundle(const std::string& path, const BundleParts& parts) {
-    for (int attempt = 0; attempt < 2 && !IsSurelyMissing(path); ++attempt) {
-        if (attempt > 0) {
-            // A folder that stays as it is shows in the removal that follows.
-            static_cast<void>(FSMakeFoldersWritable(path));
-        }
-        RemoveInfo(path, parts.info);
-        static_cast<void>(FSRemove(path, false));  // What stays is looked for below.
+    if (IsSurelyMissing(path)) {
+        return true;
+    }
+    MakeTorso(path, parts);
+    static_cast<void>(FSRemove(path, false));  // What stays is looked for below.
+    if (!IsSurelyMissing(path)) {
+        static_cast<void>(FSMakeFoldersWritable(path));
+        static_cast<void>(FSRemove(path, false));
     }
     return IsSurelyMissing(path);
 }

@@ -4,8 +4,7 @@
 #include <cstdint>
 #include <string>
 
-/// Where the parts of a bundle lie that decide whether it is whole: paths below the bundle's folder,
-/// each with its "/" in front.
+/// The paths, below the bundle, of the files that make it whole. Each begins with "/".
 struct BundleParts {
     std::string executable;
     std::string info;
@@ -28,9 +27,9 @@ ClientBundle InspectBundle(const std::string& path, const BundleParts& parts);
 
 /// Removes the bundle at `path`, whatever state it is in. Returns whether nothing is there any more.
 ///
-/// INFO goes first, so that what an interruption leaves has no build number. Where something cannot
-/// be removed, every folder is made writable for its owner, and the removal is tried once more.
-/// Symbolic links are removed, never followed.
+/// INFO goes first, or where it cannot be removed, the executable: what an interruption leaves is not
+/// whole. Where something cannot be removed, every folder is made writable for its owner, and the
+/// removal is tried once more. Symbolic links are removed, never followed.
 bool RemoveBundle(const std::string& path, const BundleParts& parts);
 
 /// Whether there certainly is nothing at the path, as opposed to something that cannot be inspected.

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <array>
+#include <cerrno>
 #include <cstdio>
 #include <vector>
 
@@ -66,9 +67,10 @@ std::string GetAppBackupDir(const std::string& path, int index) {
 }
 
 // Whether there is an old bundle to keep. A bundle that cannot be inspected counts as one: if it were
-// taken for missing, the package would be unpacked over it.
+// taken for missing, the package would be unpacked over it. The second question is for a system that
+// refuses the first answer only.
 bool HasOldApp(const std::string& app) {
-    return !IsSurelyMissing(app);
+    return !IsSurelyMissing(app) && !IsSurelyMissing(app);
 }
 
 // Moves the bundle aside. Returns the index of the backup's name, or -1 when no name was free.
@@ -85,7 +87,7 @@ int BackUp(const std::string& app) {
     return -1;
 }
 
-// Where the registered parts of the per-user bundle lie in any copy of it.
+// The registered paths of the per-user bundle, relative to it.
 BundleParts PartsOfBundle() {
     const auto prefix = Service::RegisteredPath("user_corvimo_app_path").size();
     const QString resources = Service::RegisteredPath("user_corvimo_resource_path").mid(prefix);
@@ -101,7 +103,7 @@ void RemoveBackups(const std::string& app, int last_index) {
     }
 }
 
-// Gives something that cannot be removed a name that nobody needs.
+// Renames what cannot be removed to a random name, so that it takes no name that is needed.
 bool MoveToRandomName(const std::string& path) {
     std::string name;
     return FSCreateTempPath(FSParentPath(path), name) == 0 && FSRename(path, name, false) == 0;
@@ -145,8 +147,8 @@ std::vector<Backup> InspectBackups(const std::string& app) {
     return backups;
 }
 
-// The whole backup with the greatest build; of equals the one with the highest index, which is the
-// newest. Null when none is whole.
+// The whole backup with the greatest build; of equals the one with the highest index, which is
+// usually the newest. Null when none is whole.
 const Backup* BestBackup(const std::vector<Backup>& backups) {
     const Backup* best = nullptr;
     for (const Backup& backup : backups) {
@@ -174,14 +176,15 @@ bool PutBackBestBackup(const std::string& app) {
     if (best == nullptr) {
         return false;
     }
-    if (!ClearPlace(app) || FSRename(best->path, app, false) != 0) {
+    static_cast<void>(ClearPlace(app));  // Where something stays there, the rename fails.
+    if (FSRename(best->path, app, false) != 0) {
         LOG_MSG(ERROR, "failed to put back client from '%s' -> '%s'", best->path.c_str(),
                 app.c_str());
         return false;
     }
-    RemoveTorsos(backups);
     LOG_MSG(NOTE, "client was not whole, put back build %s from '%s'",
             std::to_string(best->bundle.build).c_str(), best->path.c_str());
+    RemoveTorsos(backups);
     return true;
 }
 
@@ -197,38 +200,6 @@ void FreeBackupNames(const std::string& app, bool is_whole) {
             // Where this fails, the next start tries again.
             static_cast<void>(MoveToRandomName(backup.path));
         }
-    }
-}
-
-// Where a folder tells that the older product's data has begun to move. Without it, data that is
-// found in the new place belongs to the client.
-std::string UnfinishedMoveMark() {
-    return NativePath(Service::RegisteredPath("user_lumaport_path") +
-                      QLatin1String("/data_moving"));
-}
-
-// Moves the older product's data. False when data is left behind.
-bool MoveData(const std::string& old_data, const std::string& new_data) {
-    if (!IsFileExist(old_data, true)) {
-        return IsSurelyMissing(old_data);
-    }
-    const std::string mark = UnfinishedMoveMark();
-    // An empty folder is in nobody's way. rmdir tells reliably that it is empty.
-    const bool is_free = IsSurelyMissing(new_data) || rmdir(new_data.c_str()) == 0;
-    if (!is_free && !IsFileExist(mark, true)) {
-        return false;
-    }
-    // Without the mark an interrupted move to another volume is not resumed, but nothing is lost.
-    static_cast<void>(FSMKDir(mark, false));
-    return FSRename(old_data, new_data, true) >= 0;
-}
-
-// Once a client is installed, the data folder is the client's: nothing may be merged into it.
-void ForgetUnfinishedMove() {
-    const std::string mark = UnfinishedMoveMark();
-    if (IsFileExist(mark, true)) {
-        // A mark that stays is removed on the next start.
-        static_cast<void>(FSRemove(mark, false));
     }
 }
 
@@ -251,6 +222,41 @@ bool ReadEntries(const std::string& folder, std::vector<DIR_ENTRY>& entries) {
     }
     FSCloseDir(handle);
     return true;
+}
+
+// The path of an empty folder that marks an unfinished move of the older product's data. While it is
+// missing, whatever is in the new data folder is the client's.
+std::string UnfinishedMoveMark() {
+    return NativePath(Service::RegisteredPath("user_lumaport_path") +
+                      QLatin1String("/.corvimo_moving_data"));
+}
+
+// Whether data may move to the path: nothing is there, or an empty folder. rmdir is the reliable test:
+// a listing that fails half-way looks like an empty one. It cannot remove a volume of its own.
+bool IsFree(const std::string& path) {
+    std::vector<DIR_ENTRY> entries;
+    return IsSurelyMissing(path) || rmdir(path.c_str()) == 0 ||
+           (errno == EBUSY && ReadEntries(path, entries) && entries.empty());
+}
+
+// Whether the path is a symbolic link or leads through one. Most stored paths are the given path byte
+// for byte; the second test is for the others.
+bool IsReachedThroughLink(const std::string& path, const _FILE_INFO_tag& info) {
+    return info.type == FILE_TYPE_LINK || (info.path != path && !IsFileExist(path, true));
+}
+
+// Moves the older product's data. False when data is left behind.
+bool MoveData(const std::string& old_data, const std::string& new_data) {
+    if (!IsFileExist(old_data, true)) {
+        return IsSurelyMissing(old_data);
+    }
+    const std::string mark = UnfinishedMoveMark();
+    if (!IsFree(new_data) && !IsFileExist(mark, true)) {
+        return false;
+    }
+    // Without the mark an interrupted move to another volume is not resumed, but nothing is lost.
+    static_cast<void>(FSMKDir(mark, false));
+    return FSRename(old_data, new_data, true) >= 0;
 }
 
 }  // namespace
@@ -314,14 +320,17 @@ int Service::PrepareUserEnv() {
 
 void Service::EnsureWholeClient() {
     const ClientBundle::State state = InspectBundle(user_app_path, PartsOfBundle()).state;
-    if (state == ClientBundle::kUnknown) {
-        return;
-    }
-    const bool is_whole = state == ClientBundle::kWhole || PutBackBestBackup(user_app_path);
+    const bool is_whole = state == ClientBundle::kWhole ||
+                          (state != ClientBundle::kUnknown && PutBackBestBackup(user_app_path));
     if (is_whole) {
         ForgetUnfinishedMove();
     }
     FreeBackupNames(user_app_path, is_whole);
+}
+
+void Service::ForgetUnfinishedMove() {
+    // Mostly there is none. One that stays is removed by the next start.
+    static_cast<void>(rmdir(UnfinishedMoveMark().c_str()));
 }
 
 void Service::MigrateService() {
@@ -337,10 +346,11 @@ void Service::MigrateService() {
         return;
     }
     _FILE_INFO_tag old;
-    if (FSStat(old_folder, old, true) < 0 || !old.exists || old.type == FILE_TYPE_LINK) {
+    const bool is_known = GetFileInfo(old_folder, old) == 0;
+    if (is_known && (!old.exists || IsReachedThroughLink(old_folder, old))) {
         return;  // What lies behind a symbolic link may be used by others, too.
     }
-    if (old.type == FILE_TYPE_DIR && !MoveData(old_data, new_data)) {
+    if (!is_known || (old.type == FILE_TYPE_DIR && !MoveData(old_data, new_data))) {
         LOG_MSG(ERROR, "Failed to move data to Corvimo folder");
         return;  // Removing the old folder now would destroy the data that is still in it.
     }

@@ -49,15 +49,14 @@ public:
     virtual void LoadSourceVersion();
     virtual void LoadTargetVersion();
 
-    /// Sees to it that a client which was moved aside does not lie unused while what is at the
-    /// per-user bundle's path is not whole: missing, without an executable file, or without an INFO
-    /// that names a whole number as its build.
+    /// Puts the best whole backup in the place of the per-user bundle when the bundle is not whole:
+    /// it is missing, it has no executable file, or no INFO that names a whole number as its build.
     ///
-    /// Then the whole backup with the greatest build is renamed to that path, and backups that are
-    /// not whole are removed. Nothing whole is removed before another whole bundle is in its place;
-    /// killed or failing half-way, the next call begins anew. Without a whole backup everything stays
-    /// as it is. When the last backup name is taken, names are freed: whole backups go only when the
-    /// installed client is whole. To be called first in a run, and after an installation.
+    /// The best backup is the one with the greatest build. Backups that are not whole are removed
+    /// afterwards. Nothing whole is removed before another whole bundle is in its place; killed or
+    /// failing half-way, the next call begins anew. Without a whole backup everything stays as it is.
+    /// When the last backup name is taken, names are freed: whole backups go only when the installed
+    /// client is whole. To be called first in a run, and after an installation that has failed.
     void EnsureWholeClient();
 
     /// Moves the per-user bundle aside, unpacks the package in its place, and then removes the copy
@@ -76,9 +75,13 @@ public:
     /// Where the new data folder already holds something, nothing is moved and nothing removed. When
     /// the data cannot be moved, nothing in the old folder is removed; a move to another volume that
     /// stops half-way leaves there what had arrived. A move that was interrupted is resumed by the
-    /// next call, until `EnsureWholeClient` finds a whole client. An old folder that is a symbolic
+    /// next call, unless `ForgetUnfinishedMove` was called meanwhile. An old folder that is a symbolic
     /// link or is reached through one is left alone.
     virtual void MigrateService();
+
+    /// Lets nothing of the older product's data move any more into the new data folder when that holds
+    /// something. To be called once a client is installed, because the folder is the client's then.
+    void ForgetUnfinishedMove();
 
     /// Removes the application folder of the older product, if there is one.
     void RemoveAgedFolders();

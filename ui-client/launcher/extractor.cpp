@@ -2,6 +2,7 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <sys/stat.h>
 
 #include <QString>
 #include <cerrno>
@@ -54,6 +55,16 @@ bool HasArguments(const Extractor& extractor) {
     return !extractor.destination.empty() && !extractor.archive_path.empty();
 }
 
+// Refuses anything but a regular file: opening a FIFO waits for another process.
+int OpenArchive(archive* reader, const std::string& path) {
+    struct stat status;
+    if (stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        archive_set_error(reader, EINVAL, "Not a regular file");
+        return ARCHIVE_FATAL;
+    }
+    return archive_read_open_filename(reader, path.c_str(), kReadBlockSize);
+}
+
 // Opens the archive for a look at its entries. None after a failure, which is logged.
 Reader OpenForReading(const Extractor& extractor) {
     if (!HasArguments(extractor)) {
@@ -67,8 +78,7 @@ Reader OpenForReading(const Extractor& extractor) {
     }
     archive_read_support_filter_all(reader.get());
     archive_read_support_format_all(reader.get());
-    if (archive_read_open_filename(reader.get(), extractor.archive_path.c_str(), kReadBlockSize) !=
-        ARCHIVE_OK) {
+    if (OpenArchive(reader.get(), extractor.archive_path) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'", ErrorString(reader.get()));
         reader.reset();
     }
@@ -115,7 +125,7 @@ void LogFailedExtraction(archive* reader, archive* writer) {
     LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'", text);
     const char* const cause = ErrorString(reader);
     if (*text == '\0' && *cause != '\0') {
-        LOG_MSG(WARNING, "reading the package: '%s'", cause);
+        LOG_MSG(WARNING, "package reader: '%s'", cause);
     }
 }
 
@@ -176,8 +186,7 @@ int Extractor::Extract() {
     archive_write_disk_set_options(writer.get(), kWriterOptions);
     EnableAllCompressions(reader.get());
     archive_read_support_format_all(reader.get());
-    if (archive_read_open_filename(reader.get(), archive_path.c_str(), kReadBlockSize) !=
-        ARCHIVE_OK) {
+    if (OpenArchive(reader.get(), archive_path) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "Failed to read file '%s' ('%s')", archive_path.c_str(),
                 ErrorString(reader.get()));
         return -1;

@@ -99,10 +99,10 @@ void Worker::InstallPackage() {
     if (service_->HandlePackageUpgrade() == 0) {
         Q_EMIT sigUpdateProgress(kBarMaximum, kBarMaximum);
         Q_EMIT sigSetLabelText(StrTable::LoadStrWithAppName(StrTable::kReady));
-    } else {
-        LOG_MSG_AT(kLineFailed, ERROR, "Failed to upgrade package");
+        return;
     }
-    // Where putting the old client back has failed, this is another try.
+    LOG_MSG_AT(kLineFailed, ERROR, "Failed to upgrade package");
+    // Putting the old client back may have failed, too.
     service_->EnsureWholeClient();
 }
 

@@ -178,8 +178,7 @@ TEST_F(HostilePackage, LogsWhyAnEntryCannotBeExtracted) {
     EXPECT_EQ(-1, extractor.Extract());
     const std::string failed = "ERROR extractor: archive_read_extract2 failed: '";
     EXPECT_EQ(
-        (Records{failed + "'",
-                 "WARNING extractor: reading the package: 'ZIP decompression failed (-5)'",
+        (Records{failed + "'", "WARNING extractor: package reader: 'ZIP decompression failed (-5)'",
                  "ERROR cloud-service: Failed to extract package, rollback to old installation",
                  failed + "Cannot resolve '" + home / "missing" + "''"}),
         log.All());

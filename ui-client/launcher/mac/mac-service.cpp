@@ -176,7 +176,11 @@ int MacService::HandlePackageUpgrade() {
         StopServiceByPath(old_folder);
         MigrateService();
     }
-    return PrepareUserEnv();
+    const int result = PrepareUserEnv();
+    if (result == 0) {
+        ForgetUnfinishedMove();
+    }
+    return result;
 }
 
 void MacService::PostUpgrade() {
