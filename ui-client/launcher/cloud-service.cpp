@@ -67,10 +67,15 @@ std::string GetAppBackupDir(const std::string& path, int index) {
 }
 
 // Whether there is an old bundle to keep. A bundle that cannot be inspected counts as one: if it were
-// taken for missing, the package would be unpacked over it. The second question is for a system that
-// refuses the first answer only.
+// taken for missing, the package would be unpacked over it.
 bool HasOldApp(const std::string& app) {
-    return !IsSurelyMissing(app) && !IsSurelyMissing(app);
+    constexpr int kAttempts = 2;  // The system may refuse the first answer only.
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        if (IsSurelyMissing(app)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // Moves the bundle aside. Returns the index of the backup's name, or -1 when no name was free.

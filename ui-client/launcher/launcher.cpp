@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QIcon>
-#include <QTimer>
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -171,9 +170,10 @@ void Launcher::Start() {
     }
     // The system has given no thread. The worker's sequence runs on this one, and from the event
     // loop: before the loop has begun, the call that ends the application has no effect.
-    QTimer::singleShot(0, this, [this] {
-        QMetaObject::invokeMethod(worker_, "HandleServicce", Qt::DirectConnection);
-    });
+    QMetaObject::invokeMethod(
+        this,
+        [this] { QMetaObject::invokeMethod(worker_, "HandleServicce", Qt::DirectConnection); },
+        Qt::QueuedConnection);
 }
 
 void Launcher::LaunchDone() {
