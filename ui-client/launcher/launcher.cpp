@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QIcon>
+#include <QTimerEvent>
 #include <algorithm>
 #include <cstdint>
 #include <limits>
@@ -168,12 +169,14 @@ void Launcher::Start() {
         Q_EMIT sigStart();
         return;
     }
-    // The system has given no thread. The worker's sequence runs on this one, and from the event
+    // The system has given no thread, so the worker's sequence runs on this one. It waits for the event
     // loop: before the loop has begun, the call that ends the application has no effect.
-    QMetaObject::invokeMethod(
-        this,
-        [this] { QMetaObject::invokeMethod(worker_, "HandleServicce", Qt::DirectConnection); },
-        Qt::QueuedConnection);
+    startTimer(0);
+}
+
+void Launcher::timerEvent(QTimerEvent* event) {
+    killTimer(event->timerId());
+    QMetaObject::invokeMethod(worker_, "HandleServicce", Qt::DirectConnection);
 }
 
 void Launcher::LaunchDone() {

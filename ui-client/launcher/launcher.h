@@ -92,6 +92,10 @@ public:
 Q_SIGNALS:
     void sigStart();
 
+protected:
+    /// Runs the worker's sequence on the main thread.
+    void timerEvent(QTimerEvent* event) override;
+
 private Q_SLOTS:
     void LaunchDone();
     void UpdateProgress(int total, int steps);
