@@ -193,21 +193,6 @@ bool PutBackBestBackup(const std::string& app) {
     return true;
 }
 
-// Frees the backup names before interruptions have used up all of them. Whole backups go only when
-// the installed client is whole.
-void FreeBackupNames(const std::string& app, bool is_whole) {
-    if (IsSurelyMissing(GetAppBackupDir(app, kBackupNames - 1))) {
-        return;
-    }
-    for (const Backup& backup : InspectBackups(app)) {
-        const bool may_go = is_whole || backup.bundle.state == ClientBundle::kTorso;
-        if (may_go && !RemoveBundle(backup.path, PartsOfBundle())) {
-            // Where this fails, the next start tries again.
-            static_cast<void>(MoveToRandomName(backup.path));
-        }
-    }
-}
-
 bool IsDotOrDotDot(const std::string& name) {
     return name == "." || name == "..";
 }
@@ -325,12 +310,23 @@ int Service::PrepareUserEnv() {
 
 void Service::EnsureWholeClient() {
     const ClientBundle::State state = InspectBundle(user_app_path, PartsOfBundle()).state;
-    const bool is_whole = state == ClientBundle::kWhole ||
-                          (state != ClientBundle::kUnknown && PutBackBestBackup(user_app_path));
-    if (is_whole) {
+    if (state == ClientBundle::kWhole ||
+        (state != ClientBundle::kUnknown && PutBackBestBackup(user_app_path))) {
         ForgetUnfinishedMove();
     }
-    FreeBackupNames(user_app_path, is_whole);
+}
+
+void Service::RemoveLeftovers() {
+    const BundleParts parts = PartsOfBundle();
+    const bool is_whole = InspectBundle(user_app_path, parts).state == ClientBundle::kWhole;
+    for (const Backup& backup : InspectBackups(user_app_path)) {
+        const ClientBundle::State state = backup.bundle.state;
+        const bool may_go = is_whole || state == ClientBundle::kTorso;
+        if (may_go && !RemoveBundle(backup.path, parts)) {
+            // Where this fails, it is in the way of one backup, and the next start tries again.
+            static_cast<void>(MoveToRandomName(backup.path));
+        }
+    }
 }
 
 void Service::ForgetUnfinishedMove() {

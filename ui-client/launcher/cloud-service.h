@@ -55,9 +55,13 @@ public:
     /// The best backup is the one with the greatest build. Backups that are not whole are removed
     /// afterwards. Nothing whole is removed before another whole bundle is in its place; killed or
     /// failing half-way, the next call begins anew. Without a whole backup everything stays as it is.
-    /// When the last backup name is taken, names are freed: whole backups go only when the installed
-    /// client is whole. To be called first in a run, and after an installation that has failed.
+    /// To be called first in a run, and after an installation that has failed.
     void EnsureWholeClient();
+
+    /// Removes what interruptions have left under the backup names, so that it takes neither the names
+    /// nor the room that an installation needs. Whole backups go only when the installed client is
+    /// whole. What cannot be removed gets a random name. To be called before an installation.
+    void RemoveLeftovers();
 
     /// Moves the per-user bundle aside, unpacks the package in its place, and then removes the copy
     /// that was moved aside, or moves it back when the package could not be unpacked.

@@ -96,6 +96,7 @@ void Worker::HandleServicce() {
 
 void Worker::InstallPackage() {
     Q_EMIT sigShowMsg();
+    service_->RemoveLeftovers();
     if (service_->HandlePackageUpgrade() == 0) {
         Q_EMIT sigUpdateProgress(kBarMaximum, kBarMaximum);
         Q_EMIT sigSetLabelText(StrTable::LoadStrWithAppName(StrTable::kReady));
