@@ -1,5 +1,4 @@
-// Preloaded into the launcher by tests: makes one call of one kind fail, or ends the process in its
-// place.
+// Preloaded into the launcher by tests: makes calls of one kind fail, or sends a signal to the process.
 //
 // Calls count from the first look at the folder ~/.Corvimo on. What comes before is the start of Qt, which
 // aborts where its window system plug-in cannot be read and has touched nothing then. Reads and writes
@@ -9,14 +8,18 @@
 //
 //   FAULT_CALL    the kind, as the wrappers below name it; "change" is every call that changes a disk
 //   FAULT_NUMBER  the number of that call among its kind; 0 for none
-//   FAULT_ERROR   the error that it fails with; 0 sends SIGKILL to the process
+//   FAULT_ERROR   the error that it fails with; a negative number is a signal that the process gets
+//                 before the call
 //   FAULT_REPORT  a file that gets how many calls of the kind there were, at an orderly end
 //
-// Nothing that the process starts is touched. A process that takes longer than stopping a client may
-// take is ended by SIGALRM.
+// Two kinds of faults last. "full" is every call that needs room on a disk, and all from that number on
+// fail. "place" is lstat of the installed bundle, and two in a row fail.
+//
+// Nothing that the process starts is touched.
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <pthread.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
@@ -24,16 +27,18 @@
 
 #include <atomic>
 #include <cerrno>
+#include <climits>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <string_view>
 
 namespace {
 
-constexpr unsigned kLongestRun = 20;  // Seconds: the stop's 15 and a margin.
+enum Effect { kNone, kChange, kGrowth };  // What a call does to a disk.
 
-const char* kind = "";
+std::string_view kind;
 long number = 0;
 int error = 0;
 std::atomic<bool> has_begun{false};
@@ -44,7 +49,6 @@ __attribute__((constructor)) void Begin() {
     number = std::atol(std::getenv("FAULT_NUMBER"));
     error = std::atoi(std::getenv("FAULT_ERROR"));
     unsetenv("LD_PRELOAD");
-    alarm(kLongestRun);
 }
 
 __attribute__((destructor)) void Report() {
@@ -56,15 +60,24 @@ __attribute__((destructor)) void Report() {
     }
 }
 
-// Whether this call is the one, with errno set.
-bool Strikes(const char* call, bool changes_disk) {
-    const bool counts =
-        std::strcmp(kind, call) == 0 || (changes_disk && std::strcmp(kind, "change") == 0);
-    if (!has_begun || !counts || ++calls != number) {
+bool Counts(const char* call, Effect effect) {
+    return kind == call || (kind == "change" && effect != kNone) ||
+           (kind == "full" && effect == kGrowth);
+}
+
+// Whether this call is to fail, with errno set.
+bool Strikes(const char* call, Effect effect) {
+    if (!has_begun || !Counts(call, effect)) {
         return false;
     }
-    if (error == 0) {
-        kill(getpid(), SIGKILL);
+    const long count = ++calls;
+    const long last = kind == "full" ? LONG_MAX : kind == "place" ? number + 1 : number;
+    if (number == 0 || count < number || count > last) {
+        return false;
+    }
+    if (error < 0) {
+        kill(getpid(), -error);
+        return false;
     }
     errno = error;
     return true;
@@ -75,11 +88,19 @@ bool IsFile(int fd) {
     return fstat(fd, &status) == 0 && S_ISREG(status.st_mode);
 }
 
+bool IsCalled(const char* path, const char* name) {
+    const char* const end = std::strrchr(path, '/');
+    return end != nullptr && std::strcmp(end + 1, name) == 0;
+}
+
 // Whether this look at a folder is the first that counts, or comes after it.
 bool BeginsAt(const char* folder) {
-    const char* const name = std::strrchr(folder, '/');
-    has_begun = has_begun || (name != nullptr && std::strcmp(name, "/.Corvimo") == 0);
+    has_begun = has_begun || IsCalled(folder, ".Corvimo");
     return has_begun;
+}
+
+const char* Inspection(const char* path) {
+    return kind == "place" && IsCalled(path, "Corvimo.app") ? "place" : "lstat";
 }
 
 }  // namespace
@@ -90,40 +111,47 @@ bool BeginsAt(const char* folder) {
         return next;                                       \
     }())
 
-#define WRAP_WHERE(condition, result, name, call, changes_disk, failure, parameters, arguments) \
-    extern "C" result name parameters {                                                         \
-        return (condition) && Strikes(call, changes_disk) ? failure : NEXT(name) arguments;     \
+#define WRAP_WHERE(condition, result, name, call, effect, failure, parameters, arguments) \
+    extern "C" result name parameters {                                                   \
+        return (condition) && Strikes(call, effect) ? failure : NEXT(name) arguments;     \
     }
 #define WRAP(...) WRAP_WHERE(true, __VA_ARGS__)
 
-#define WRAP_OPEN(name)                                                            \
-    extern "C" int name(const char* path, int flags, ...) {                        \
-        va_list args;                                                              \
-        va_start(args, flags);                                                     \
-        const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(args, mode_t) : 0;     \
-        va_end(args);                                                              \
-        const bool changes_disk = (flags & (O_CREAT | O_TRUNC)) != 0;              \
-        return Strikes("open", changes_disk) ? -1 : NEXT(name)(path, flags, mode); \
+#define WRAP_OPEN(name)                                                             \
+    extern "C" int name(const char* path, int flags, ...) {                         \
+        va_list args;                                                               \
+        va_start(args, flags);                                                      \
+        const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(args, mode_t) : 0;      \
+        va_end(args);                                                               \
+        const Effect effect = (flags & (O_CREAT | O_TRUNC)) != 0 ? kGrowth : kNone; \
+        return Strikes("open", effect) ? -1 : NEXT(name)(path, flags, mode);        \
     }
 
 WRAP_OPEN(open)
 WRAP_OPEN(open64)
-WRAP_WHERE(IsFile(fd), ssize_t, read, "read", false, -1, (int fd, void* data, size_t size),
+WRAP_WHERE(IsFile(fd), ssize_t, read, "read", kNone, -1, (int fd, void* data, size_t size),
            (fd, data, size))
-WRAP_WHERE(IsFile(fd), ssize_t, write, "write", true, -1, (int fd, const void* data, size_t size),
-           (fd, data, size))
-WRAP(int, fsync, "fsync", false, -1, (int fd), (fd))
-WRAP(int, rename, "rename", true, -1, (const char* from, const char* to), (from, to))
-WRAP_WHERE(BeginsAt(path), int, mkdir, "mkdir", true, -1, (const char* path, mode_t mode),
+WRAP_WHERE(IsFile(fd), ssize_t, write, "write", kGrowth, -1,
+           (int fd, const void* data, size_t size), (fd, data, size))
+WRAP(int, fsync, "fsync", kNone, -1, (int fd), (fd))
+WRAP(int, rename, "rename", kChange, -1, (const char* from, const char* to), (from, to))
+WRAP_WHERE(BeginsAt(path), int, mkdir, "mkdir", kGrowth, -1, (const char* path, mode_t mode),
            (path, mode))
-WRAP(int, symlink, "symlink", true, -1, (const char* target, const char* path), (target, path))
-WRAP(int, unlink, "unlink", true, -1, (const char* path), (path))
-WRAP(int, rmdir, "unlink", true, -1, (const char* path), (path))
-WRAP(int, remove, "unlink", true, -1, (const char* path), (path))
-WRAP(DIR*, opendir, "opendir", false, nullptr, (const char* path), (path))
-WRAP(dirent*, readdir, "readdir", false, nullptr, (DIR * stream), (stream))
-WRAP(int, lstat, "lstat", false, -1, (const char* path, struct stat* status), (path, status))
-WRAP(int, posix_spawn, "fork", false, errno,
+WRAP(int, symlink, "symlink", kGrowth, -1, (const char* target, const char* path), (target, path))
+WRAP(int, unlink, "unlink", kChange, -1, (const char* path), (path))
+WRAP(int, rmdir, "unlink", kChange, -1, (const char* path), (path))
+WRAP(int, remove, "unlink", kChange, -1, (const char* path), (path))
+WRAP(DIR*, opendir, "opendir", kNone, nullptr, (const char* path), (path))
+WRAP(dirent*, readdir, "readdir", kNone, nullptr, (DIR * stream), (stream))
+WRAP(int, chmod, "chmod", kChange, -1, (const char* path, mode_t mode), (path, mode))
+WRAP(int, lstat, Inspection(path), kNone, -1, (const char* path, struct stat* status),
+     (path, status))
+WRAP(int, stat, "lstat", kNone, -1, (const char* path, struct stat* status), (path, status))
+WRAP(int, access, "lstat", kNone, -1, (const char* path, int mode), (path, mode))
+WRAP(int, pthread_create, "thread", kNone, errno,
+     (pthread_t * thread, const pthread_attr_t* attributes, void* (*run)(void*), void* argument),
+     (thread, attributes, run, argument))
+WRAP(int, posix_spawn, "fork", kNone, errno,
      (pid_t * child, const char* path, const posix_spawn_file_actions_t* actions,
       const posix_spawnattr_t* attributes, char* const* argv, char* const* variables),
      (child, path, actions, attributes, argv, variables))

@@ -1,5 +1,6 @@
 """The road of one run, from its start to a running client, with what may stand in its way."""
 
+import itertools
 import os
 import pathlib
 import resource
@@ -8,11 +9,23 @@ import subprocess
 import time
 import unittest
 
-from scene import APP, CLIENT, OPEN, REGISTER, Scene, main, mount_volume, snapshot, write
+from scene import (
+    APP,
+    CLIENT,
+    GLUED,
+    NOBODY,
+    OPEN,
+    REGISTER,
+    SHORT_CLIENT,
+    Scene,
+    main,
+    mount_volume,
+    snapshot,
+    write,
+)
 
 STACK_BYTES = 256 << 10
 LONG_PATH = 4000
-NOBODY = 65534
 BINARY = b"\x7fELF\0\xff\n=\0"
 
 HOLD = """\
@@ -50,14 +63,6 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual([], scene.backups())
         self.assertEqual("the person's data", (scene.home / ".Corvimo/data" / data).read_text())
 
-    # Runs a launcher whose package cannot be installed over the client of build 100.
-    def check_restored(self, scene):
-        before = snapshot(scene.home / APP)
-        self.check_run(scene, "100")
-        self.assertEqual(before, snapshot(scene.home / APP))
-        self.assertEqual([], scene.backups())
-        self.assertIn("ERROR launcher(101): Failed to upgrade package", scene.log())
-
     def test_upgrades_a_running_client_whatever_the_home_is_called(self):
         for home, told, language in (
             ("home", "home", ""),
@@ -85,18 +90,6 @@ class LauncherTest(unittest.TestCase):
         road = ROAD.read_text().format(unset="", **vars(scene)).splitlines()
         self.assertEqual(road, scene.log())
 
-    def test_installs_for_the_first_time_and_then_only_what_is_newer(self):
-        scene = Scene(self)
-        tree = scene.carry_client("101")
-        self.check_run(scene, "101")
-        for starts, carried in enumerate(("101", "100", ""), start=2):
-            with self.subTest(carried):
-                self.assertEqual(tree, snapshot(scene.home / APP))
-                scene.carry_client(carried)
-                self.check_run(scene, *["101"] * starts)
-                self.assertIn("DEBUG launcher(94): no need to upgrade", scene.log())
-        self.assertEqual(tree, snapshot(scene.home / APP))
-
     def test_takes_over_from_the_older_product(self):
         scene = Scene(self)
         scene.tree = scene.carry_client("101")
@@ -111,37 +104,56 @@ class LauncherTest(unittest.TestCase):
         self.check_installed(scene, "deep/file")
         self.assertFalse((scene.home / ".Lumaport").exists())
 
-    def test_restores_the_old_client_when_the_package_is_bad(self):
-        outside = [("Contents/../../../outside", 0o100644, "")]
-        for spoil in (
-            lambda scene: scene.package.unlink(),
-            lambda scene: write(scene.package, ""),
-            lambda scene: write(scene.package, "no archive"),
-            lambda scene: os.truncate(scene.package, scene.package.stat().st_size // 2),
-            lambda scene: scene.carry_client("101", outside),
-        ):
-            scene = self.upgrade()
-            spoil(scene)
-            self.check_restored(scene)
-            self.assertFalse((scene.home / "outside").exists())
-
-    def test_restores_the_old_client_when_the_disk_is_full(self):
+    def test_puts_back_the_best_backup(self):
         scene = Scene(self)
-        (scene.home / ".Corvimo").mkdir()
-        mount_volume(self, scene.home / ".Corvimo", "size=1m")
-        scene.install_client("100")
-        scene.carry_client("101", [("Contents/large", 0o100644, "x" * (2 << 20))])
-        self.check_restored(scene)
+        for name, build in ("", 9), ("_tmp", 99), ("_tmp1", 101), ("_tmp2", 102), ("_tmp4", 101):
+            scene.install_client(build, APP + name)
+            write(scene.home / f"{APP}{name}/name", name)
+        for name in "", "_tmp2":
+            (scene.home / f"{APP}{name}/Contents/Resources/INFO").unlink()
+        best = snapshot(scene.home / f"{APP}_tmp4")
+        scene.carry_client("102")
+        scene.package.unlink()
+        self.check_run(scene, "101")
+        self.assertEqual(best, snapshot(scene.home / APP))
+        self.assertEqual([], scene.backups())
+        notes = [line for line in scene.log() if line.startswith("NOTE")]
+        self.assertEqual(["NOTE cloud-service"], [line.partition(":")[0] for line in notes])
+        self.assertIn("ERROR launcher(101): Failed to upgrade package", scene.log())
 
-    def test_takes_any_content_in_its_small_files(self):
-        for content in (b"", BINARY, b"x" * (3 << 20)):
-            scene = self.upgrade()
-            write(scene.home / APP / "Contents/Resources/INFO", content)
-            write(scene.home / ".Corvimo/ui.pid", content)
-            write(scene.contents / "Resources/log/launcher.debug", content)
-            self.check_run(scene, "101")
-            write(scene.contents / "Resources/INFO", content)
-            self.check_run(scene, "101", "101")
+    def test_takes_anything_in_the_place_of_its_small_files(self):
+        own = "Launcher.app/Contents/Resources"
+        files = "ui.pid", "log/launcher.log", "Corvimo.app/Contents/Resources/INFO"
+        paths = [f"{own}/INFO", f"{own}/log/launcher.debug", *(f"home/.Corvimo/{x}" for x in files)]
+        makers = {
+            "pipe": os.mkfifo,
+            "device": lambda path: path.symlink_to("/dev/zero"),
+            "folder": os.mkdir,
+            "no content": lambda path: write(path, b""),
+            "binary": lambda path: write(path, BINARY),
+            "long": lambda path: write(path, b"x" * (3 << 20)),
+        }
+        for kind, name in itertools.product(makers, paths):
+            with self.subTest(kind, name=name):
+                scene = self.upgrade(client=SHORT_CLIENT)
+                path = scene.folder / name
+                path.parent.mkdir(exist_ok=True)
+                path.unlink(missing_ok=True)
+                makers[kind](path)
+                self.check_run(scene, "100" if name == f"{own}/INFO" else "101")
+            self.doCleanups()
+
+    def test_ends_a_record_that_a_full_disk_has_cut(self):
+        scene = self.upgrade()
+        log = scene.home / ".Corvimo/log/launcher.log"
+        log.parent.mkdir()
+        mount_volume(self, log.parent, "size=4k")
+        write(scene.contents / OPEN, "#!/bin/sh\n", 0o755)
+        while not log.exists() or log.stat().st_size < 4096:
+            self.check_run(scene)
+        subprocess.run(["mount", "-o", "remount,size=1m", log.parent], check=True)
+        self.check_run(scene)
+        self.assertNotRegex(log.read_text(errors="replace"), GLUED)
 
     def test_says_which_tools_could_not_be_started(self):
         scene = self.upgrade()
@@ -170,17 +182,21 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(before, snapshot(scene.home / ".Corvimo"))
 
     def test_leaves_at_once_while_another_runs(self):
-        scene = self.upgrade()
-        held = scene.home / "held"
-        write(scene.contents / REGISTER, HOLD, 0o755)
-        first = scene.start()
-        while not held.exists():
-            time.sleep(0.01)
-        self.check_run(scene)
-        self.assertEqual("DEBUG main(154): app has already launched, return", scene.log()[-1])
-        held.unlink()
-        self.assertEqual(0, scene.wait_for(first))
-        scene.check_started("101")
+        for mode in 0o755, 0o775, 0o777:
+            with self.subTest(oct(mode)):
+                scene = self.upgrade()
+                (scene.home / ".Corvimo").chmod(mode)
+                held = scene.home / "held"
+                write(scene.contents / REGISTER, HOLD, 0o755)
+                first = scene.start()
+                while not held.exists():
+                    time.sleep(0.01)
+                self.check_run(scene)
+                left = "DEBUG main(154): app has already launched, return"
+                self.assertEqual(left, scene.log()[-1])
+                held.unlink()
+                self.assertEqual(0, scene.wait_for(first))
+                scene.check_started("101")
 
     def test_keeps_its_descriptors_and_signals_from_the_programs_that_it_starts(self):
         scene = self.upgrade()
@@ -188,6 +204,8 @@ class LauncherTest(unittest.TestCase):
             write(scene.contents / tool, RECORDER, 0o755)
         scene.wait_for(scene.start(OPEN))
         ((by_hand, _),) = scene.started()
+        for number in signal.SIGHUP, signal.SIGINT, signal.SIGTERM:  # As some parents leave them.
+            self.addCleanup(signal.signal, number, signal.signal(number, signal.SIG_IGN))
         self.check_run(scene, *[by_hand] * 3)
 
     def test_removes_a_deep_old_client_whatever_the_limit_on_stacks(self):

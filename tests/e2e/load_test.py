@@ -37,6 +37,7 @@ class LoadTest(unittest.TestCase):
         folders[-1].mkdir(mode=0o700)
         scene.environment |= {"TMPDIR": str(folders[-1]), "XDG_RUNTIME_DIR": str(folders[-1])}
         self.assertEqual(0, scene.run())
+        self.assertIn("DEBUG launcher(94): no need to upgrade", scene.log())
         before = [set(os.listdir(folder)) for folder in folders]
         logs = scene.home / ".Corvimo/log"
         write(logs / "launcher.log", "\n" * FULL_LOG)

@@ -9,6 +9,7 @@ import re
 import shutil
 import signal
 import stat
+import struct
 import subprocess
 import sys
 import tempfile
@@ -41,11 +42,21 @@ echo "$build $$" >>"$HOME/started"
 while [ -d "/proc/$TESTER" ]; do sleep 0.05; done
 """
 
+# Only notes its start, and ends.
+SHORT_CLIENT = """\
+#!/bin/sh
+echo "$(sed -n 's/^build_version=//p' "${0%/*}/../Resources/INFO") $$" >>"$HOME/started"
+"""
+
 # Support's tools find the records of two sources by their line. The lines of the others may change.
 RECORD = re.compile(
     r"[\dT:-]{19} \( *\d+: *\d+\) \[(\w+)\] ((?:main|launcher)\(\d+\)|[^ (]+)(?:\(\d+\))?: (.*)"
 )
 
+GLUED = r"(?m)^.+\d{4}-\d\d-\d\dT"  # Two records in one line.
+LIMIT = 120  # Seconds for what takes less than one, or about 15 where a client does not end.
+
+NOBODY = 65534
 PR_SET_CHILD_SUBREAPER = 36
 CLONE_NEWNS = 0x20000
 LIBC = ctypes.CDLL(None)
@@ -80,15 +91,17 @@ def mount_volume(test, folder, options):
     test.addCleanup(subprocess.run, ["umount", "--lazy", folder], check=True)
 
 
-# One person's machine. Ends every client that was started on it when the test is over.
+# One person's machine. Ends every launcher and client that was started on it when the test is over.
 class Scene:
     def __init__(self, test, home="home", client=CLIENT_SCRIPT):
         LIBC.prctl(PR_SET_CHILD_SUBREAPER, 1)  # What the launcher leaves behind comes to us.
         folder = tempfile.TemporaryDirectory(prefix="corvimo-test-")
         test.addCleanup(folder.cleanup)
-        test.addCleanup(self.end_clients)
+        test.addCleanup(self.end_processes)
+        signal.signal(signal.SIGALRM, lambda *_: test.fail("the launcher does not end"))
         self.test = test
         self.client = client
+        self.processes = []
         self.folder = pathlib.Path(folder.name)
         self.folder.chmod(0o755)
         self.home = self.folder / home
@@ -107,34 +120,39 @@ class Scene:
         }
 
     # Puts a client of the build into the launcher's package, with more entries (name, mode with type,
-    # content or target) before the INFO, which comes last. Gives the snapshot that it must become.
+    # content or target) first. Gives the snapshot that it must become.
     def carry_client(self, build, extra=()):
         entries = [
+            *extra,
+            ("Contents/empty/", 0o40755, ""),
             ("Contents/Info.plist", 0o100644, PLIST),
             ("Contents/MacOS/corvimo-ui", 0o100755, self.client),
             ("Contents/Resources/größe.txt", 0o100644, build),
             ("Contents/current", 0o120777, "Resources"),
-            *extra,
             ("Contents/Resources/INFO", 0o100644, INFO.format(build)),
         ]
-        tree = {"Contents/empty": "dir"}
+        tree = {}
         with zipfile.ZipFile(self.package, "w", zipfile.ZIP_DEFLATED) as package:
-            package.writestr("Contents/empty/", "")
             for name, mode, content in entries:
                 record = zipfile.ZipInfo(name)
                 record.external_attr = mode << 16
+                # Repeats type and mode in front of the data, as the project's packages have it.
+                record.extra = struct.pack("<HHBHI", 0x6C78, 7, 0b101, 0x314, mode << 16)
                 package.writestr(record, content)
                 tree.update((str(path), "dir") for path in pathlib.PurePath(name).parents[:-1])
-                tree[name] = content if stat.S_ISLNK(mode) else (mode & 0o777, content.encode())
+                described = {stat.S_IFLNK: content, stat.S_IFDIR: "dir"}
+                file = mode & 0o777, content.encode()
+                tree[name.rstrip("/")] = described.get(stat.S_IFMT(mode), file)
+            self.end_of_entries = package.start_dir
         write(self.contents / "Resources/INFO", INFO.format(build))
         return tree
 
     # Installs a client of the build in the home folder, as an earlier run has left it.
-    def install_client(self, build):
-        contents = self.home / APP / "Contents"
+    def install_client(self, build, bundle=APP):
+        contents = self.home / bundle / "Contents"
         write(contents / "MacOS/corvimo-ui", self.client, 0o755)
         write(contents / "Info.plist", PLIST)
-        write(contents / "Resources/old.txt", build)
+        write(contents / "Resources/old.txt", "")
         write(contents / "Resources/INFO", INFO.format(build))
         write(self.home / ".Corvimo/data/file", "the person's data")
 
@@ -143,18 +161,23 @@ class Scene:
         path = self.contents / program
         ignored_here = signal.SIGPIPE, signal.SIGXFSZ
         environment = self.environment | variables
-        return os.posix_spawn(path, [path], environment, setsigdef=ignored_here)
+        self.processes.append(os.posix_spawn(path, [path], environment, setsigdef=ignored_here))
+        return self.processes[-1]
 
     # Runs the launcher to its end and gives its exit status; negative when it crashed.
     def run(self, **variables):
         return self.wait_for(self.start(**variables))
 
-    # Reaps everything that ends meanwhile, as the system's first process does it.
-    def wait_for(self, process):
-        while True:
-            ended, status = os.wait()
-            if ended == process:
-                return os.waitstatus_to_exitcode(status)
+    # Reaps everything that ends meanwhile, as the system's first process does it. Without a process,
+    # waits for all.
+    def wait_for(self, process=None):
+        signal.alarm(LIMIT)
+        ended = status = 0
+        with contextlib.suppress(ChildProcessError):
+            while ended != process:
+                ended, status = os.wait()
+        signal.alarm(0)
+        return os.waitstatus_to_exitcode(status)
 
     # The build and the process id of each client that was started, as it has noted them.
     def started(self):
@@ -170,13 +193,13 @@ class Scene:
             time.sleep(0.01)
         self.test.assertEqual(list(builds), [build for build, _ in self.started()])
 
-    # Only a child of this process is one of its clients; a number that was reused is not.
-    def end_clients(self):
-        for _, number in self.started():
+    # Only a child of this process is one of them; a number that was reused is not.
+    def end_processes(self):
+        for number in [*self.processes, *(int(client) for _, client in self.started())]:
             with contextlib.suppress(ChildProcessError):
-                if os.waitpid(int(number), os.WNOHANG) == (0, 0):
-                    os.kill(int(number), signal.SIGKILL)
-                    os.waitpid(int(number), 0)
+                if os.waitpid(number, os.WNOHANG) == (0, 0):
+                    os.kill(number, signal.SIGKILL)
+                    os.waitpid(number, 0)
 
     # The records as "LEVEL source: message". Fails at one that is torn.
     def log(self):

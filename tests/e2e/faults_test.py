@@ -1,0 +1,159 @@
+"""Whatever fails in one start of the launcher or in several, no data and no client is lost:
+
+    faults_test.py KIND      each call of a kind fails (see world.py), and the next start has a fault too
+    faults_test.py rows      sequences of starts that once lost something
+    faults_test.py random    random sequences
+    faults_test.py SEED      one of them again
+
+A run takes a sample of the calls and sequences; with CORVIMO_WHOLE_MATRIX set it takes all. What fails
+is made shorter as long as it fails."""
+
+import collections
+import random
+import sys
+import unittest
+from errno import EAGAIN, EIO, EMFILE, ENOSPC
+from signal import SIGHUP, SIGINT, SIGKILL, SIGTERM
+
+from scene import IS_WHOLE, TRIES, main
+from world import FEATURES, KINDS, MISSING, NO_FAULT, Start, World, random_start
+
+KILLED = Start(fault=("change", 40, -SIGKILL))
+# What is there, and the starts. Two healthy starts follow.
+ROWS = {
+    "killed, then no package": ("installed", KILLED, Start(MISSING)),
+    "killed, then a cut package": ("installed", KILLED, Start(0.5)),
+    "killed, then a full disk": ("installed", KILLED, Start(None, ("full", 9, ENOSPC))),
+    "killed, then EMFILE": ("installed", KILLED, Start(None, ("open", 12, EMFILE))),
+    "killed eleven times": ("installed", *[KILLED] * 11),
+    "killed on a tight disk": ("installed tight", Start(None, ("change", 60, -SIGKILL))),
+    "cut late, killed in the roll-back": ("installed", Start(1.0, ("unlink", 20, -SIGKILL))),
+    "cut late, unlink fails": ("installed", Start(1.0, ("unlink", 20, EIO))),
+    "cut late, opendir fails": ("installed", Start(1.0, ("opendir", 6, EIO))),
+    "cut late, readdir fails": ("installed", Start(1.0, ("readdir", 90, EIO))),
+    "data on both sides": ("older data volume",),
+    "no second thread": ("installed", Start(None, ("thread", 1, EAGAIN))),
+    "read-only folders, ordinary user": ("installed ordinary", *[Start()] * 11),
+    "SIGTERM": ("installed", Start(None, ("change", 40, -SIGTERM))),
+    "SIGHUP": ("installed", Start(None, ("change", 40, -SIGHUP))),
+    "SIGINT": ("installed", Start(None, ("change", 40, -SIGINT))),
+    "client cannot be inspected": ("installed", Start(None, ("place", 1, EIO))),
+}
+
+# What is there, and the share of the package that is not cut off.
+SCENARIOS = {
+    "upgrade": ("installed data", None),
+    "upgrade with a bad package": ("installed data", 1.0),
+    "migration": ("older", None),
+    "migration with a bad package": ("older", 1.0),
+    "migration to another volume": ("older volume", None),
+    "migration onto data on another volume": ("older data volume", None),
+    "large upgrade": ("installed data large", None),
+}
+LARGE_SAMPLE = 200  # Its calls differ little from each other.
+
+
+# Each of these gives cases: a group to count it in, a name, what is there, and the starts.
+def rows():
+    for name, (features, *starts) in ROWS.items():
+        yield "rows", name, features, starts
+
+
+def random_sequences(seeds):
+    for seed in seeds:
+        rng = random.Random(seed)
+        wanted = {rng.choice(["installed", "older"]), *(x for x in FEATURES if rng.random() < 0.2)}
+        if "tight" in wanted:
+            wanted.discard("backup")  # It takes the room.
+        starts = [random_start(rng) for _ in range(rng.randint(3, 8))]
+        yield "random sequences", seed, " ".join(sorted(wanted)), starts
+
+
+def matrix(test, kind):
+    call, errors = KINDS[kind]
+    seen = 0
+    for scenario, (features, kept) in SCENARIOS.items():
+        if "large" in features and kind != "kill":
+            continue
+        world = World(test, features)
+        world.check_start(Start(kept, (call, 0, 0)))
+        test.doCleanups()
+        count = world.calls
+        steps = min(
+            count, TRIES if not IS_WHOLE else LARGE_SAMPLE if "large" in features else count
+        )
+        seen += count
+        for step in range(steps):
+            number = 1 + (2 * step + 1) * count // (2 * steps)
+            for error in errors if IS_WHOLE else [errors[step % len(errors)]]:
+                second = random_start(random.Random(f"{kind} {number} {error}"), is_faulty=True)
+                starts = [Start(kept, (call, number, error)), second]
+                yield f"{kind}, {scenario}", "", features, starts
+    test.assertTrue(seen, "no call of this kind")
+
+
+# The case with one thing less.
+def simpler_cases(features, starts):
+    for i in range(len(starts)):
+        yield features, starts[:i] + starts[i + 1 :]
+    for feature in features.split():
+        yield " ".join(features.replace(feature, "").split()), starts
+    for i, (kept, (call, number, error), is_newer) in enumerate(starts):
+        faults = NO_FAULT, (call, number // 2, error), (call, max(0, number - 1), error)
+        for simpler in Start(None, *starts[i][1:]), *(
+            Start(kept, fault, is_newer) for fault in faults
+        ):
+            if simpler != starts[i]:
+                yield features, [*starts[:i], simpler, *starts[i + 1 :]]
+
+
+class FaultsTest(unittest.TestCase):
+    what = ""
+
+    def cases(self):
+        if self.what in KINDS:
+            return matrix(self, self.what)
+        if self.what == "rows":
+            return rows()
+        if self.what != "random":
+            return random_sequences([int(self.what)])
+        first = random.SystemRandom().randrange(10**9)
+        return random_sequences(range(first, first + (3000 if IS_WHOLE else 10 * TRIES)))
+
+    def test_loses_nothing(self):
+        tried, good, starts_tried, faults = (collections.Counter() for _ in range(4))
+        for group, name, features, starts in self.cases():
+            tried[group] += 1
+            starts_tried[group] += len(starts) + 2
+            with self.subTest(group, name=name, features=features, starts=starts):
+                if self.failure_of(features, starts):
+                    print("fails:", group, name, flush=True)
+                    self.shrink(features, starts)
+                faults[group] += self.struck
+                wanted = sum(start.fault != NO_FAULT for start in starts)
+                self.assertTrue(group != "rows" or self.struck == wanted, "a fault has not struck")
+                good[group] += 1
+        for group, count in tried.items():
+            details = f"{starts_tried[group]} starts, {faults[group]} faults"
+            print(f"figure: {group}: {good[group]} of {count} ({details})")
+
+    def failure_of(self, features, starts):
+        self.struck = 0
+        try:
+            self.struck = World(self, features).play(*starts)
+        except AssertionError as failure:
+            return failure
+        finally:
+            self.doCleanups()
+
+    # Fails with the shortest case that still fails.
+    def shrink(self, features, starts):
+        for simpler in simpler_cases(features, starts):
+            if self.failure_of(*simpler):
+                self.shrink(*simpler)
+        raise AssertionError(f"{features}: {starts}") from self.failure_of(features, starts)
+
+
+if __name__ == "__main__":
+    FaultsTest.what = sys.argv.pop()
+    main()

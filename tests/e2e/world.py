@@ -1,0 +1,175 @@
+"""Starts of the launcher with faults, one after another on one machine, and the judge of what each of
+them leaves: whatever fails, no data is lost, and whoever had a whole client has one that starts."""
+
+import os
+import shutil
+import subprocess
+import typing
+from errno import EACCES, EAGAIN, EINTR, EIO, EMFILE, ENOMEM, ENOSPC
+from signal import SIGHUP, SIGINT, SIGKILL, SIGTERM
+
+from scene import APP, GLUED, NOBODY, SHORT_CLIENT, Scene, mount_volume, snapshot, write
+
+ERRORS = EIO, ENOSPC, EACCES, EMFILE, ENOMEM, EINTR
+CALLS = "open read write fsync rename mkdir unlink opendir readdir lstat fork chmod".split()
+# Each kind of fault: a call as the fault library names it, and errors or negative signals.
+KINDS = {call: (call, ERRORS) for call in CALLS} | {
+    "full": ("full", [ENOSPC]),
+    "place": ("place", [EIO]),
+    "thread": ("thread", [EAGAIN]),
+    "kill": ("change", [-SIGKILL]),
+    "signal": ("change", [-SIGTERM, -SIGHUP, -SIGINT]),
+}
+NO_FAULT = "", 0, 0
+MISSING = -1.0  # In place of a share of the package.
+
+# What may be there. Torsos take all backup names but the first. On a tight disk two clients have room,
+# three have not. The package of an ordinary user has folders that nobody may write to.
+FEATURES = "installed older data backup torsos volume tight pipes shared ordinary".split()
+LASTING = {"Corvimo.app", "data", "launcher.lock", "log", "ui.pid"}
+
+
+class Start(typing.NamedTuple):
+    """One start of the launcher."""
+
+    kept: typing.Optional[float] = None  # The share of the package's entries that is left by a cut.
+    fault: tuple = NO_FAULT  # The call, the number and the error for the fault library.
+    is_newer: bool = True  # Whether the package has a newer build than that of the start before.
+
+
+def random_start(rng, is_faulty=False):
+    kept = rng.choice([None] * 4 + [MISSING, 0.0, rng.random(), 1.0])
+    fault = NO_FAULT
+    if rng.random() < 0.5 or (is_faulty and kept is None):
+        call, errors = KINDS[rng.choice([rng.choice([*KINDS]), "kill"])]
+        fault = call, 1 + int(120 * rng.random() ** 2), rng.choice(errors)
+    return Start(kept, fault, rng.random() < 0.5)
+
+
+class World(Scene):
+    def __init__(self, test, features):
+        super().__init__(test, client=SHORT_CLIENT)
+        self.features = set(features.split())
+        self.folders = [self.home / ".Corvimo", self.home / ".Lumaport"]
+        self.folders[0].mkdir()
+        self.app = self.home / APP
+        self.trees = {}  # The tree of each build.
+        if self.features & {"volume", "tight"}:
+            mount_volume(test, self.folders[0], "size=1m")
+        self.folders[0].chmod(0o775 if "shared" in self.features else 0o755)
+        for self.build, feature in (99, "backup"), (100, "installed"):
+            if feature in self.features:
+                self.carry()
+                self.test.assertEqual(0, self.run())
+                self.wait_for()
+                shutil.move(self.app, self.folder / feature)
+        for feature, name in ("backup", f"{APP}_tmp"), ("installed", APP):
+            if feature in self.features:
+                shutil.move(self.folder / feature, self.home / name)
+        self.add_data_and_obstacles()
+        shutil.copy(os.environ["FAULT_LIBRARY"], self.folder)
+        if "ordinary" in self.features and os.geteuid() == 0:
+            subprocess.run(["chown", "-hR", str(NOBODY), self.folder], check=True)
+            test.addCleanup(os.setresuid, 0, 0, 0)
+            os.setresuid(NOBODY, NOBODY, 0)
+
+    def add_data_and_obstacles(self):
+        corvimo, lumaport = self.folders
+        self.data = []  # The relative path and the content of each file.
+        for feature, folder in ("data", corvimo), ("older", lumaport):
+            for name in ("data/file", "data/deep/file") if feature in self.features else ():
+                self.data.append((name, feature))
+                write(folder / name, feature)
+        for number in range(1, 10) if "torsos" in self.features else ():
+            write(self.home / f"{APP}_tmp{number}/Contents/MacOS/corvimo-ui", "", 0o755)
+        self.log_file = corvimo / "log/launcher.log"
+        self.log_file.parent.mkdir(exist_ok=True)
+        levels = self.contents / "Resources/log/launcher.debug"
+        for path in (self.log_file, levels, corvimo / "ui.pid") if "pipes" in self.features else ():
+            path.unlink(missing_ok=True)
+            os.mkfifo(path)
+        self.may_keep_old_data = bool(self.features & {"installed", "backup", "data"})
+
+    def carry(self):
+        entries = []
+        for i in range(300 if "large" in self.features else 4):
+            name = f"Contents/{i // 20}/{i}-{self.build}"
+            entries.append((f"{name}-link", 0o120777, "../Info.plist"))
+            entries.append((name, 0o100644 if i % 3 else 0o100755, name))
+        if "tight" in self.features:
+            entries.append(("Contents/large", 0o100644, "x" * (350 << 10)))
+        if "ordinary" in self.features:
+            folders = "Contents/", "Contents/0/", "Contents/MacOS/", "Contents/Resources/"
+            entries = [*((name, 0o40555, "") for name in folders), *entries]
+        self.trees[str(self.build)] = self.carry_client(str(self.build), entries)
+
+    # The build at the path, where it is whole, as a list.
+    def whole(self, path):
+        found = snapshot(path)
+        return [build for build, tree in self.trees.items() if tree == found]
+
+    def has_whole_client(self):
+        return any(map(self.whole, [self.app, *self.backups()]))
+
+    # Starts the launcher and judges what it leaves. Tells whether the fault has struck.
+    def check_start(self, start):
+        self.build += start.is_newer
+        self.carry()
+        if start.kept == MISSING:
+            self.package.unlink()
+        elif start.kept is not None:
+            os.truncate(self.package, int(start.kept * self.end_of_entries))
+        had_client = self.has_whole_client()
+        is_killed = self.run_with_fault(*start.fault)
+        for name, content in self.data:
+            files = [folder / name for folder in self.folders if (folder / name).is_file()]
+            self.test.assertIn(content, [file.read_text() for file in files], name)
+        if self.log_file.is_file():
+            self.test.assertNotRegex(self.log_file.read_text(errors="replace"), GLUED)
+        call, number, error = start.fault
+        is_failing = call != "thread" and error > 0
+        self.may_keep_old_data |= is_failing
+        if is_killed:
+            self.test.assertLessEqual(had_client, self.has_whole_client(), "no whole client")
+        elif start.kept is None and not is_failing:
+            self.test.assertEqual([str(self.build)], self.whole(self.app))
+            has_old_data = self.folders[1].exists()
+            self.test.assertLessEqual(has_old_data, self.may_keep_old_data, "not migrated")
+        if had_client and not is_killed:
+            self.test.assertTrue(self.whole(self.app), "no whole client")
+            started = [build for build, _ in self.started()]
+            self.test.assertTrue(call == "fork" or started == self.whole(self.app), started)
+        return is_killed or self.calls >= number > 0
+
+    # Tells whether the launcher was killed.
+    def run_with_fault(self, call, number, error):
+        report = self.folder / "calls"
+        report.write_text("0")
+        (self.home / "started").unlink(missing_ok=True)
+        library = self.folder / os.path.basename(os.environ["FAULT_LIBRARY"])
+        fault = {
+            "LD_PRELOAD": str(library),
+            "ASAN_OPTIONS": "verify_asan_link_order=0",
+            "FAULT_CALL": call,
+            "FAULT_NUMBER": str(number),
+            "FAULT_ERROR": str(error),
+            "FAULT_REPORT": str(report),
+        }
+        status = self.run(**(fault if call else {}))
+        self.wait_for()
+        is_killed = status == error == -SIGKILL
+        self.test.assertTrue(is_killed or status == 0, f"status {status}")
+        self.calls = int(report.read_text())
+        return is_killed
+
+    # Starts the launcher again and again, at last twice in order. Tells how many faults have struck.
+    def play(self, *starts):
+        struck = 0
+        for number, start in enumerate((*starts, Start(is_newer=False), Start()), 1):
+            try:
+                struck += self.check_start(start)
+            except AssertionError as failure:
+                failure.add_note(f"start {number}: {start}")
+                raise
+        self.test.assertLessEqual(set(os.listdir(self.folders[0])), LASTING, "left over")
+        return struck
