@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "lib/platform/linux/proc_link.h"
 #include "lib/platform/platform.h"
 #include "lib/platform/unique_fd.h"
 
@@ -18,24 +19,9 @@ constexpr const char* kOwnExecutable = "/proc/self/exe";
 
 using PathBuffer = std::array<char, kStoredPathCapacity>;
 
-// The whole content of a link of /proc, or -1 with errno set; a content that fills the buffer may
-// have been cut and counts as too long.
-int ReadProcLink(const char* link, std::string& content) {
-    PathBuffer buffer;
-    const ssize_t length = readlink(link, buffer.data(), buffer.size());
-    if (length < 0) {
-        return -1;
-    }
-    if (static_cast<std::size_t>(length) == buffer.size()) {
-        errno = ENAMETOOLONG;
-        return -1;
-    }
-    content.assign(buffer.data(), static_cast<std::size_t>(length));
-    return 0;
-}
-
-// The kernel also names what has no path, such as a pipe, and marks what was removed meanwhile. The
-// slower way judges those, and a file that is really called so.
+// Whether the kernel's name of an object is its path. It also names what has no path, such as a pipe,
+// and marks what was removed meanwhile. Those, and a file whose name looks like the mark, are left to
+// the C library.
 bool IsPath(const std::string& name) {
     static const std::string removed = " (deleted)";
     const bool is_marked = name.size() > removed.size() &&
@@ -95,6 +81,20 @@ int StoredPathFromParent(const std::string& path, std::string& stored) {
 }
 
 }  // namespace
+
+int ReadProcLink(const char* link, std::string& content) {
+    PathBuffer buffer;
+    const ssize_t length = readlink(link, buffer.data(), buffer.size());
+    if (length < 0) {
+        return -1;
+    }
+    if (static_cast<std::size_t>(length) == buffer.size()) {
+        errno = ENAMETOOLONG;  // The content may have been cut.
+        return -1;
+    }
+    content.assign(buffer.data(), static_cast<std::size_t>(length));
+    return 0;
+}
 
 int PlatformStoredPath(const std::string& path, bool follow_final_link, std::string& stored) {
     if (StoredPathFromKernel(path, follow_final_link, stored) == 0) {

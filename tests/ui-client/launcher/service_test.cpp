@@ -1,8 +1,15 @@
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <spawn.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
+#include <regex>
+#include <thread>
 
 #include "UIPathManager.h"
 #include "mac/mac-service.h"
@@ -15,18 +22,70 @@ namespace {
 
 const std::string kError = "ERROR cloud-service: ";
 
+// No process ever has this number: it is above the largest one that the system gives.
+constexpr pid_t kNoProcess = 4200000;
+
 // The one process that there is for the code under test.
 struct {
     int error_while_alive = ESRCH;
     int probes_alive = 0;
-    std::string calls;  // "PID:SIGNAL " and "sleep:SECONDS ".
+    pid_t child =
+        0;  // A child of this test, which gets its signals. The other fields mean nothing then.
+    std::string calls;  // "SIGNAL " and "sleep:SECONDS ".
 } process;
+
+// A child that ends some time after SIGTERM, or never. It is reaped, by another thread, some time after
+// its end.
+class Child {
+public:
+    Child(double seconds_to_end, double seconds_to_reap) : pid_(Fork(seconds_to_end)) {
+        reaper_ = std::thread([this, seconds_to_reap] {
+            siginfo_t info;
+            EXPECT_EQ(0, waitid(P_PID, static_cast<id_t>(pid_), &info, WEXITED | WNOWAIT));
+            std::this_thread::sleep_for(std::chrono::duration<double>(seconds_to_reap));
+            EXPECT_EQ(pid_, waitpid(pid_, &status_, 0));
+        });
+        process = {0, 0, pid_, ""};
+    }
+    pid_t Pid() const { return pid_; }
+    int Status() {
+        reaper_.join();
+        return status_;
+    }
+
+private:
+    static pid_t Fork(double seconds_to_end) {
+        seconds = seconds_to_end;
+        const auto before = signal(SIGTERM, EndLater);  // The child has it from its beginning on.
+        const pid_t pid = fork();
+        while (pid == 0) {
+            pause();
+        }
+        signal(SIGTERM, before);
+        return pid;
+    }
+    static void EndLater(int) {
+        if (seconds >= 0) {
+            usleep(static_cast<useconds_t>(seconds * 1e6));
+            _exit(0);
+        }
+    }
+
+    static double seconds;
+    const pid_t pid_;
+    int status_ = 0;
+    std::thread reaper_;
+};
+double Child::seconds = 0;
 
 }  // namespace
 
-// They take the place of the system's: no signal leaves this program, and no time passes in it.
+// They take the place of the system's. No signal leaves this program but for its own child.
 extern "C" int kill(pid_t pid, int signal) noexcept {
-    process.calls += std::to_string(pid) + ":" + std::to_string(signal) + " ";
+    process.calls += std::to_string(signal) + " ";
+    if (pid == process.child && pid > 0) {
+        return static_cast<int>(syscall(SYS_kill, pid, signal));
+    }
     errno = signal == SIGTERM || process.probes_alive-- > 0 ? process.error_while_alive : ESRCH;
     return errno == 0 ? 0 : -1;
 }
@@ -36,25 +95,87 @@ extern "C" unsigned sleep(unsigned seconds) {
     return 0;
 }
 
+// Where the system cannot watch the process.
 TEST(StopService, FollowsTheAnswersOfTheSystem) {
     // clang-format off
     const struct { int error, probes_alive; std::string last_call; Records records; } rows[] = {
-        {ESRCH,  0, "",       {}},
-        {0,      2, "812:0 ", {}},
-        {0,     15, "812:9 ", {}},
-        {EPERM, 15, "812:9 ", {"ERROR mac/mac-service: kill: Operation not permitted (1)"}},
+        {ESRCH,  0, "",   {}},
+        {0,      2, "0 ", {}},
+        {0,     15, "9 ", {}},
+        {EPERM, 15, "9 ", {"ERROR mac/mac-service: kill: Operation not permitted (1)"}},
     };
     // clang-format on
     const PrivateHome home;
-    WriteDeep(home / ".Corvimo/ui.pid", "# client\npid = 812\nother=1\n");
+    WriteDeep(home / ".Corvimo/ui.pid",
+              "# client\npid = " + std::to_string(kNoProcess) + "\nother=1\n");
     for (const auto& row : rows) {
-        process = {row.error, row.probes_alive, ""};
+        process = {row.error, row.probes_alive, 0, ""};
         const CapturedLog log;
         MacService().StopService();
-        const QString probes = QStringLiteral("812:0 sleep:1 ").repeated(row.probes_alive);
-        EXPECT_EQ("812:15 " + probes.toStdString() + row.last_call, process.calls);
+        const QString probes = QStringLiteral("0 sleep:1 ").repeated(row.probes_alive);
+        EXPECT_EQ("15 " + probes.toStdString() + row.last_call, process.calls);
         EXPECT_EQ(row.records, log.All());
     }
+}
+
+// A busy machine may make a round more of it. What never ends takes 15 seconds; no other test does.
+TEST(StopService, WaitsUntilTheClientEndsAndNoLonger) {
+    // clang-format off
+    const struct { double seconds_to_end, seconds_to_reap; int status; std::string calls; } rows[] = {
+        {0.1, 0,   0,       "15 0 0 "},       // Seen at its end, not a second later.
+        {1.5, 0,   0,       "15 0 0 (0 )*"},
+        {0.1, 1.5, 0,       "15 (0 )+"},      // A zombie is not killed.
+        {-1,  0,   SIGKILL, "15 (0 ){15}9 "},
+    };
+    // clang-format on
+    const PrivateHome home;
+    for (const auto& row : rows) {
+        Child child(row.seconds_to_end, row.seconds_to_reap);
+        WriteDeep(home / ".Corvimo/ui.pid", "pid=" + std::to_string(child.Pid()));
+        MacService().StopService();
+        EXPECT_EQ(row.status, child.Status());
+        EXPECT_TRUE(std::regex_match(process.calls, std::regex(row.calls))) << process.calls;
+    }
+}
+
+TEST(StopService, SignalsOnlyAProcessThatMayHaveWrittenTheFile) {
+    const PrivateHome home;
+    const std::string folder = home / ".Corvimo";
+    const std::string path = folder + "/ui.pid";
+    const std::string self = fs::read_symlink("/proc/self/exe");
+    fs::create_directories(folder);
+    const std::string in_folder = folder + "/program";
+    fs::copy_file("/bin/sleep", in_folder);
+    const char* const argv[] = {"sleep", "60", nullptr};
+    pid_t program = 0;
+    ASSERT_EQ(0, posix_spawn(&program, in_folder.c_str(), nullptr, nullptr,
+                             const_cast<char* const*>(argv), environ));
+    Child child(0, 0);
+    const std::string other =
+        "' belongs to '" + self + "', not to the client, nothing to terminate";
+    // clang-format off
+    const struct { pid_t pid; int file_age; std::string calls, record; } rows[] = {
+        {child.Pid(), 60, "", "pid " + std::to_string(child.Pid()) + " in '" + path + other},
+        {getpid(), 0, "", "pid " + std::to_string(getpid()) + " in '" + path + other},
+        {program, 60, "15 0 (0 )*", ""},
+        {child.Pid(), 0, "15 0 (0 )*", ""},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
+        WriteFile(path, "pid=" + std::to_string(row.pid));
+        fs::last_write_time(path,
+                            fs::file_time_type::clock::now() - std::chrono::seconds(row.file_age));
+        process.calls = "";
+        process.child = row.pid == program ? program : child.Pid();
+        std::thread reaper([&] { row.pid == program ? waitpid(program, nullptr, 0) : 0; });
+        const CapturedLog log;
+        MacService().StopService();
+        reaper.join();
+        EXPECT_TRUE(std::regex_match(process.calls, std::regex(row.calls))) << process.calls;
+        EXPECT_EQ(row.record.empty() ? Records() : Records{"NOTE mac/mac-service: " + row.record},
+                  log.All());
+    }
+    EXPECT_EQ(0, child.Status());
 }
 
 TEST(StopService, SignalsNobodyWithoutOneProcess) {

@@ -1,121 +1,122 @@
 #include "mac/mac-service.h"
 
 #include <signal.h>
-#include <spawn.h>
-#include <sys/wait.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
+#include <optional>
 #include <system_error>
-#include <vector>
+#include <thread>
 
 #include "lib/config.h"
 #include "lib/file/file-op.h"
 #include "lib/log.h"
 #include "lib/platform/platform.h"
-#include "lib/platform/retry.h"
+#include "lib/platform/process.h"
 
 #define LOG_SOURCE "mac/mac-service"
 
-// macOS declares it in no header.
-extern char** environ;  // NOLINT(readability-redundant-declaration)
-
 namespace {
+
+using std::chrono::system_clock;
 
 const std::string kLogComponent = "service_debug";
 
 constexpr int kDefaultTimeout = 10000;
-constexpr int kStopProbes = 15;
-constexpr unsigned kSecondsBetweenProbes = 1;
+constexpr int kStopRounds = 15;
+constexpr std::chrono::seconds kRound(1);
+
+// Volumes keep the times of files in units of up to two seconds.
+constexpr std::chrono::seconds kFileTimeTolerance(2);
 
 constexpr const char* kRegistrationTool =
     "/System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support/"
     "lsregister";
 constexpr const char* kOpenTool = "/usr/bin/open";
 
-// Starts a tool, in a session of its own where asked for. Gives its process id, or -1 when it could not
-// be started.
-//
-// Not QProcess: Qt 5.15 allocates memory between fork and exec, where a lock of the allocator that the
-// dialog's thread held at that moment is never released again, and where the system has no room for
-// another process it takes that for a start and waits without end. Nor does this copy the page tables
-// of a process with fifty libraries.
-pid_t StartTool(const std::string& tool, const std::vector<std::string>& arguments, bool detached) {
-    std::vector<char*> argv = {const_cast<char*>(tool.c_str())};  // Nobody writes to them.
-    for (const std::string& argument : arguments) {
-        argv.push_back(const_cast<char*>(argument.c_str()));
-    }
-    argv.push_back(nullptr);
-    sigset_t ignored_here;
-    static_cast<void>(sigemptyset(&ignored_here));
-    for (const int signal : {SIGPIPE, SIGTERM, SIGHUP, SIGINT}) {
-        static_cast<void>(sigaddset(&ignored_here, signal));
-    }
-    posix_spawnattr_t attributes;
-    if (posix_spawnattr_init(&attributes) != 0) {
-        return -1;
-    }
-    const int flags = POSIX_SPAWN_SETSIGDEF | (detached ? POSIX_SPAWN_SETSID : 0);
-    pid_t pid = 0;
-    const bool started =
-        posix_spawnattr_setsigdefault(&attributes, &ignored_here) == 0 &&
-        posix_spawnattr_setflags(&attributes, static_cast<short>(flags)) == 0 &&
-        posix_spawn(&pid, tool.c_str(), nullptr, &attributes, argv.data(), environ) == 0;
-    static_cast<void>(posix_spawnattr_destroy(&attributes));
-    return started ? pid : -1;
-}
-
-// Waits for a tool to end. Whether it has succeeded.
-bool HasSucceeded(pid_t tool) {
-    int status = 0;
-    const pid_t ended = RetryInterrupted([&] { return waitpid(tool, &status, 0); });
-    return ended == tool && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
 // The leading decimal number of a text, cut to 32 bits; 0 where there is none.
 int32_t LeadingNumber(const std::string& text) {
     return static_cast<int32_t>(std::strtol(text.c_str(), nullptr, 10));
 }
 
-// Reads the client's process id. False when there is nothing to stop.
-bool ReadPid(const std::string& pid_file, pid_t& pid) {
+// Reads the client's process id. None when there is nothing to stop.
+std::optional<pid_t> ReadPid(const std::string& pid_file) {
     if (!IsFileExist(pid_file, false)) {
         LOG_MSG(DEBUG, "pid file '%s' does not exist, no need to terminate", pid_file.c_str());
-        return false;
+        return std::nullopt;
     }
     Config config;
     if (config.read(pid_file) < 0) {
         LOG_MSG(NOTE, "Failed to read pid file '%s', not exist ?", pid_file.c_str());
-        return false;
+        return std::nullopt;
     }
     const std::string value = config.entries["pid"];
     if (value.empty()) {
-        return false;
+        return std::nullopt;
     }
-    pid = LeadingNumber(value);
-    // Judged after the cut, which may have made 0 or -1 of a large number.
+    const pid_t pid = LeadingNumber(value);
+    // The number is checked after it was cut to 32 bits, which may have made 0 or -1 of a large one.
     if (pid <= 0) {
         LOG_MSG(NOTE, "pid '%s' in '%s' names no process, nothing to terminate", value.c_str(),
                 pid_file.c_str());
-        return false;
+        return std::nullopt;
     }
-    return true;
+    return pid;
+}
+
+std::optional<system_clock::time_point> ModificationTime(const std::string& path) {
+    struct stat status;
+    if (stat(path.c_str(), &status) != 0) {
+        return std::nullopt;
+    }
+    return system_clock::from_time_t(status.st_mtime);
+}
+
+bool LiesIn(const std::string& folder, const std::string& executable) {
+    std::string stored = folder;
+    return FSGetRealPath(stored) == 0 && FSIsParentFolder(stored, executable);
+}
+
+// Whether the process may have written the pid file: it was started before the file was last changed,
+// or it runs a program of the folder. A pid file outlives its client, after a crash or a restart of the
+// system, and then its number may belong to any program of the person.
+//
+// The second condition holds where the clock was set forward while the client ran, which makes its start
+// look later than the file. The first one holds for a client that is run by an interpreter. Where the
+// system tells neither, the process counts as the client.
+bool MayBeClient(const PlatformProcess& process, const std::string& folder,
+                 const std::string& pid_file) {
+    const auto written = ModificationTime(pid_file);
+    const bool is_time_known = process.start_time.has_value() && written.has_value();
+    if (!is_time_known && process.executable.empty()) {
+        return true;
+    }
+    const bool is_old_enough =
+        is_time_known && *process.start_time <= *written + kFileTimeTolerance;
+    return is_old_enough || LiesIn(folder, process.executable);
+}
+
+bool IsClient(pid_t pid, const std::string& folder, const std::string& pid_file) {
+    const PlatformProcess process = PlatformInspectProcess(pid);
+    if (pid != getpid() && MayBeClient(process, folder, pid_file)) {
+        return true;
+    }
+    const std::string& program = process.executable;
+    LOG_MSG(NOTE, "pid %d in '%s' belongs to '%s', not to the client, nothing to terminate", pid,
+            pid_file.c_str(), program.empty() ? "another program" : program.c_str());
+    return false;
 }
 
 bool IsGone(pid_t pid) {
     return kill(pid, 0) != 0 && errno == ESRCH;
 }
 
-void SleepSeconds(unsigned seconds) {
-    while (seconds > 0) {
-        seconds = sleep(seconds);  // A signal that arrives meanwhile ends a sleep early.
-    }
-}
-
-// Asks the process to end. False when it is already gone.
-bool Terminate(pid_t pid) {
+// Asks the process to end. Returns whether to wait for it: false when it is already gone.
+bool SendSigterm(pid_t pid) {
     if (kill(pid, SIGTERM) == 0) {
         return true;
     }
@@ -127,14 +128,46 @@ bool Terminate(pid_t pid) {
     return true;
 }
 
-bool WaitUntilGone(pid_t pid) {
-    for (int probe = 0; probe < kStopProbes; ++probe) {
-        if (IsGone(pid)) {
+void SleepSecond() {
+    unsigned seconds = 1;
+    while (seconds > 0) {
+        seconds = sleep(seconds);  // A signal that arrives meanwhile ends a sleep early.
+    }
+}
+
+// Probes the process and waits for its end, together for at most a second. Returns whether it is gone.
+bool IsGoneWithinRound(pid_t pid, ProcessWatch& watch) {
+    if (IsGone(pid)) {
+        return true;
+    }
+    if (!watch.IsWatching()) {
+        SleepSecond();
+        return false;
+    }
+    const auto end_of_round = std::chrono::steady_clock::now() + kRound;
+    if (watch.WaitForEnd(kRound) && IsGone(pid)) {
+        return true;
+    }
+    // A zombie that nobody waits for. Until its parent does, it gets the time that a process gets.
+    std::this_thread::sleep_until(end_of_round);
+    return false;
+}
+
+bool IsGoneInTime(pid_t pid, ProcessWatch& watch) {
+    for (int round = 0; round < kStopRounds; ++round) {
+        if (IsGoneWithinRound(pid, watch)) {
             return true;
         }
-        SleepSeconds(kSecondsBetweenProbes);
     }
     return false;
+}
+
+// Whether the number still names the process that got SIGTERM at that time. A number is not given away
+// before its process has ended.
+bool IsStillSameProcess(pid_t pid, ProcessWatch& watch, system_clock::time_point sigterm_time) {
+    return watch.IsWatching()
+               ? !watch.HasEnded()
+               : PlatformInspectProcess(pid).start_time.value_or(sigterm_time) <= sigterm_time;
 }
 
 }  // namespace
@@ -194,12 +227,19 @@ void MacService::StopService() {
 }
 
 void MacService::StopServiceByPath(const QString& folder) {
-    pid_t pid = 0;
-    if (!ReadPid((folder + QLatin1String("/ui.pid")).toStdString(), pid) || !Terminate(pid)) {
+    const std::string pid_file = (folder + QLatin1String("/ui.pid")).toStdString();
+    const std::optional<pid_t> pid = ReadPid(pid_file);
+    if (!pid.has_value()) {
         return;
     }
-    if (!WaitUntilGone(pid)) {
-        static_cast<void>(kill(pid, SIGKILL));  // The installation goes on whatever comes of it.
+    ProcessWatch watch(*pid);
+    const auto sigterm_time = system_clock::now();
+    if (!IsClient(*pid, folder.toStdString(), pid_file) || !SendSigterm(*pid) ||
+        IsGoneInTime(*pid, watch)) {
+        return;
+    }
+    if (IsStillSameProcess(*pid, watch, sigterm_time)) {
+        static_cast<void>(kill(*pid, SIGKILL));  // The installation goes on whatever comes of it.
     }
 }
 
@@ -211,11 +251,11 @@ bool MacService::PerUserBinPathExist() {
 int MacService::LaunchPerUserBin() {
     const std::string bundle = RegisteredPath("user_corvimo_app_path").toStdString();
     const pid_t registration =
-        StartTool(PlatformToolPath(kRegistrationTool), {"-u", bundle}, false);
-    if (registration < 0 || !HasSucceeded(registration)) {
+        PlatformStartTool(PlatformToolPath(kRegistrationTool), {"-u", bundle}, false);
+    if (registration < 0 || PlatformWaitForTool(registration) != 0) {
         LOG_MSG(ERROR, "Cannot unregister bundle, %s", bundle.c_str());
     }
-    return StartTool(PlatformToolPath(kOpenTool), {"-n", "-a", bundle}, true) < 0 ? -1 : 0;
+    return PlatformStartTool(PlatformToolPath(kOpenTool), {"-n", "-a", bundle}, true) < 0 ? -1 : 0;
 }
 
 void MacService::LoadSourceVerInfo() {

@@ -29,11 +29,13 @@ public:
     bool IsNeedUpgrade() override;
 
     /// Ends the client whose pid file `ui.pid` lies in the folder: asks it with SIGTERM, waits up
-    /// to 15 seconds for it to go, then kills it. Returns in any case, also when the client is
-    /// still there.
+    /// to 15 seconds for it to end, then kills it. Returns as soon as it has ended, and in any case
+    /// after that, also when the client is still there.
     ///
-    /// The pid file is only read. A pid of 0 or below does not name one process: nothing is
-    /// signalled then, since the launcher's own process group would be hit.
+    /// The pid file is only read. Nothing is signalled when its pid is 0 or below, which would reach
+    /// the launcher's own process group, when it is the launcher's own, or when the process cannot
+    /// have written the file: it was started after the file was last changed, and it runs a program
+    /// from outside the folder.
     void StopServiceByPath(const QString& folder);
 
     /// Whether the per-user client's executable exists.

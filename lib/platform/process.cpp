@@ -1,0 +1,115 @@
+#include <fcntl.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "lib/platform/process.h"
+#include "lib/platform/retry.h"
+
+// macOS declares it in no header.
+extern char** environ;  // NOLINT(readability-redundant-declaration)
+
+namespace {
+
+constexpr const char* kEmptyInput = "/dev/null";
+
+// Owns what posix_spawn takes. Each function returns 0 or an error number, as those of the system do.
+class SpawnSettings {
+public:
+    SpawnSettings()
+        : has_attributes_(posix_spawnattr_init(&attributes_) == 0),
+          has_actions_(posix_spawn_file_actions_init(&actions_) == 0) {}
+    ~SpawnSettings() {
+        if (has_attributes_) {
+            posix_spawnattr_destroy(&attributes_);
+        }
+        if (has_actions_) {
+            posix_spawn_file_actions_destroy(&actions_);
+        }
+    }
+    SpawnSettings(const SpawnSettings&) = delete;
+    SpawnSettings& operator=(const SpawnSettings&) = delete;
+
+    bool Make(bool in_own_session) {
+        return has_attributes_ && has_actions_ && SetSignals() && SetInput() &&
+               SetFlags(in_own_session);
+    }
+
+    const posix_spawnattr_t* Attributes() const { return &attributes_; }
+    const posix_spawn_file_actions_t* Actions() const { return &actions_; }
+
+private:
+    bool SetSignals() {
+        sigset_t all;
+        sigset_t none;
+        return sigfillset(&all) == 0 && sigemptyset(&none) == 0 &&
+               posix_spawnattr_setsigdefault(&attributes_, &all) == 0 &&
+               posix_spawnattr_setsigmask(&attributes_, &none) == 0;
+    }
+
+    bool SetInput() {
+        // Without the file the program could not be started at all.
+        return access(kEmptyInput, R_OK) != 0 ||
+               posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, kEmptyInput, O_RDONLY,
+                                                0) == 0;
+    }
+
+    bool SetFlags(bool in_own_session) {
+        const int flags = POSIX_SPAWN_SETSIGDEF | POSIX_SPAWN_SETSIGMASK |
+                          (in_own_session ? POSIX_SPAWN_SETSID : 0);
+        return posix_spawnattr_setflags(&attributes_, static_cast<short>(flags)) == 0;
+    }
+
+    posix_spawnattr_t attributes_;
+    posix_spawn_file_actions_t actions_;
+    const bool has_attributes_;
+    const bool has_actions_;
+};
+
+}  // namespace
+
+// Not QProcess: Qt 5.15 allocates memory between fork and exec. If another thread holds a lock of the
+// allocator at that moment, the child waits for it for ever. If the system has no room for another
+// process, QProcess::execute takes that for a start and waits for ever, too. posix_spawn also does not
+// copy the page tables of a process with fifty libraries.
+pid_t PlatformStartTool(const std::string& tool, const std::vector<std::string>& arguments,
+                        bool in_own_session) {
+    std::vector<char*> argv = {const_cast<char*>(tool.c_str())};  // Nobody writes to them.
+    for (const std::string& argument : arguments) {
+        argv.push_back(const_cast<char*>(argument.c_str()));
+    }
+    argv.push_back(nullptr);
+    SpawnSettings settings;
+    pid_t pid = -1;
+    const bool is_started = settings.Make(in_own_session) &&
+                            posix_spawn(&pid, tool.c_str(), settings.Actions(),
+                                        settings.Attributes(), argv.data(), environ) == 0;
+    return is_started ? pid : -1;
+}
+
+int PlatformWaitForTool(pid_t tool) {
+    int status = 0;
+    const pid_t ended = RetryInterrupted([&] { return waitpid(tool, &status, 0); });
+    return ended == tool && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+bool ProcessWatch::WaitForEnd(std::chrono::milliseconds limit) {
+    using std::chrono::steady_clock;
+    const auto end = steady_clock::now() + limit;
+    auto rest = limit;
+    while (IsWatching() && !has_ended_) {
+        const int count = AwaitEvent(rest);
+        has_ended_ = count > 0;
+        if (count >= 0 || errno != EINTR) {
+            break;
+        }
+        rest = std::max(
+            std::chrono::milliseconds(0),
+            std::chrono::duration_cast<std::chrono::milliseconds>(end - steady_clock::now()));
+    }
+    return has_ended_;
+}
