@@ -1,6 +1,7 @@
 """The work of compare.sh. Needs Python 3.9 and nothing but its standard library."""
 
 import argparse
+import contextlib
 import dataclasses
 import json
 import os
@@ -11,6 +12,8 @@ import statistics
 import subprocess
 import sys
 import tempfile
+import threading
+import time
 from typing import Callable
 
 import make_client
@@ -29,11 +32,14 @@ STARTS_PER_RUN = 5  # A start is short, and so more easily disturbed.
 GROWTH_COUNTS = (1_000, 10_000, 100_000)
 GROWTH_LIMIT = 1.15
 FILES_PER_FOLDER = 100
-TOOLS = (
+# What stands in for the system's tools.
+TOOLS = {
     "System/Library/Frameworks/CoreServices.framework/Frameworks/LaunchServices.framework/Support"
-    "/lsregister",
-    "usr/bin/open",
-)
+    "/lsregister": "return_at_once",
+    "usr/bin/open": "note_time",
+}
+# Ends at the next of its short sleeps.
+RUNNING_CLIENT = "trap 'exit 0' TERM; while :; do sleep 0.02; done"
 
 
 class RunFailed(Exception):
@@ -91,6 +97,14 @@ class Result:
         )
 
 
+@dataclasses.dataclass(frozen=True)
+class Difference(Result):
+    """The same with the difference of the two sides in the place of the ratio."""
+
+    def ratios(self):
+        return [a - b for a, b in zip(self.ours, self.peers)]
+
+
 HEADER = """\
 | What | Peer | Medians | Ratio | Middle half | Target | Holds |
 |---|---|---|---|---|---|---|"""
@@ -115,7 +129,7 @@ class Stage:
         self.folder = folder
         self.other_volume = other_volume
         self.client = folder / "client"
-        self.home = folder / "home"
+        self.home = other_volume / "home"  # In memory, where a disk disturbs nothing.
         self.app = self.home / ".Corvimo/Corvimo.app"
         self.bundle = folder / "Launcher.app"
         self.resources = self.bundle / "Contents/Resources"
@@ -152,13 +166,11 @@ class Stage:
         print("Making a client to install...", file=sys.stderr)
         make_client.make_client(self.client, NEW_BUILD)
         shutil.copytree(self.build / "bundle/Corvimo.app", self.bundle, symlinks=True)
-        for tool in TOOLS:
-            stand_in = self.bundle / "Contents/PlatformTools" / tool
-            shutil.copy(self.program("return_at_once"), stand_in)
+        for tool, stand_in in TOOLS.items():
+            place = self.bundle / "Contents/PlatformTools" / tool
+            shutil.copy(self.program(stand_in), place)
         packer = pathlib.Path(__file__).parent.parent / "scripts/make-package.sh"
-        subprocess.run(
-            [packer, self.client, self.resources], check=True, stdout=subprocess.DEVNULL
-        )
+        subprocess.run([packer, self.client, self.resources], check=True, stdout=subprocess.DEVNULL)
 
     def archive(self, name, option):
         path = self.folder / name
@@ -282,6 +294,47 @@ def compare_upgrade(stage, runs):
     yield Result("a whole upgrade", peer, *seconds(costs), "s", 1.05)
 
 
+def time_to_open(stage):
+    """The seconds from the start of the launcher to that of `open`."""
+    note = stage.folder / "opened"
+    note.unlink(missing_ok=True)
+    begin = time.monotonic()
+    environment = stage.environment | {"NOTE_TIME": str(note)}
+    subprocess.run([stage.launcher], env=environment, check=True, stdout=subprocess.DEVNULL)
+    return float(note.read_text()) - begin
+
+
+@contextlib.contextmanager
+def running_client(stage):
+    """A client as the launcher finds it: its end is noticed at once, as the system's first process does
+    it."""
+    client = subprocess.Popen(["sh", "-c", RUNNING_CLIENT])
+    pid_file = stage.home / ".Corvimo/ui.pid"
+    pid_file.write_text(f"pid={client.pid}\n")
+    reaper = threading.Thread(target=client.wait)
+    reaper.start()
+    try:
+        yield
+    finally:
+        client.kill()
+        reaper.join()
+        pid_file.unlink()
+
+
+def compare_stop(stage, runs):
+    sides = [[], []]
+    for index in range(-WARM_UPS, runs):
+        for taken, client in zip(sides, (running_client(stage), contextlib.nullcontext())):
+            stage.install(OLD_BUILD)
+            os.sync()
+            with client:
+                seconds_taken = time_to_open(stage)
+            if index >= 0:
+                taken.append(seconds_taken)
+    what = "an upgrade until `open` is called, of a running client (difference)"
+    yield Difference(what, "without a running client", *sides, "s", 0.15)
+
+
 def part_times(stage, program, runs, clock):
     """The nanoseconds of each benchmark of a program, repetition by repetition. The `cpu_time` of
     one thread tells of its work alone, the `real_time` also of waiting for others."""
@@ -376,9 +429,7 @@ def growth_operations(stage, place):
 
 
 def compare_growth(stage, runs):
-    operations = [
-        growth_operations(stage, growth_place(stage, count)) for count in GROWTH_COUNTS
-    ]
+    operations = [growth_operations(stage, growth_place(stage, count)) for count in GROWTH_COUNTS]
     rounds = {name: [[] for _ in GROWTH_COUNTS] for name in operations[0]}
     for index in range(-WARM_UPS, runs):
         for name, costs in rounds.items():
@@ -413,6 +464,7 @@ COMPARISONS = {
     "move": compare_move,
     "start": compare_start,
     "upgrade": compare_upgrade,
+    "stop": compare_stop,
     "log": compare_log,
     "existence": compare_existence,
     "normalization": compare_normalization,

@@ -29,6 +29,7 @@ const std::string kLogComponent = "service_debug";
 constexpr int kDefaultTimeout = 10000;
 constexpr int kStopRounds = 15;
 constexpr std::chrono::seconds kRound(1);
+constexpr std::chrono::milliseconds kPauseForParent(5);
 
 // Volumes keep the times of files in units of up to two seconds.
 constexpr std::chrono::seconds kFileTimeTolerance(2);
@@ -145,12 +146,18 @@ bool IsGoneWithinRound(pid_t pid, ProcessWatch& watch) {
         return false;
     }
     const auto end_of_round = std::chrono::steady_clock::now() + kRound;
-    if (watch.WaitForEnd(kRound) && IsGone(pid)) {
-        return true;
+    if (!watch.WaitForEnd(kRound)) {
+        return false;
     }
-    // A zombie that nobody waits for. Until its parent does, it gets the time that a process gets.
-    std::this_thread::sleep_until(end_of_round);
-    return false;
+    // It has ended, and answers the probe until its parent has waited for it. That may take a moment,
+    // or for ever.
+    while (!IsGone(pid)) {
+        if (std::chrono::steady_clock::now() >= end_of_round) {
+            return false;
+        }
+        std::this_thread::sleep_for(kPauseForParent);
+    }
+    return true;
 }
 
 bool IsGoneInTime(pid_t pid, ProcessWatch& watch) {
