@@ -80,6 +80,22 @@ class LauncherTest(unittest.TestCase):
                 self.assertFalse(os.path.exists(f"/proc/{old_client}"))
                 self.check_installed(scene, "file")
 
+    def test_spares_a_program_that_took_over_the_number(self):
+        scene = self.upgrade()
+        program = subprocess.Popen(["sleep", "1000"])
+        self.addCleanup(program.wait)
+        self.addCleanup(program.kill)
+        pid_file = scene.home / ".Corvimo/ui.pid"
+        write(pid_file, f"pid={program.pid}\n")
+        os.utime(pid_file, (0, 0))
+        self.check_run(scene, "101")
+        self.assertIsNone(program.poll())
+        notes = [line for line in scene.log() if line.startswith("NOTE mac/mac-service: ")]
+        self.assertEqual(1, len(notes))
+        for named in str(program.pid), str(pid_file), os.readlink(f"/proc/{program.pid}/exe"):
+            self.assertIn(named, notes[0])
+        self.check_installed(scene, "file")
+
     def test_logs_the_road_of_an_upgrade(self):
         scene = self.upgrade()
         before = signal.signal(signal.SIGCHLD, signal.SIG_IGN)  # As some parents leave it.
