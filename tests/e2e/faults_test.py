@@ -1,12 +1,12 @@
-"""Whatever fails in one start of the launcher or in several, no data and no client is lost:
+"""Whatever fails in one start of the launcher or in several, no data and no client is lost."""
 
-    faults_test.py KIND      each call of a kind fails (see world.py), and the next start has a fault too
-    faults_test.py rows      sequences of starts that once lost something
-    faults_test.py random    random sequences
-    faults_test.py SEED      one of them again
-
-A run takes a sample of the calls and sequences; with CORVIMO_WHOLE_MATRIX set it takes all. What fails
-is made shorter as long as it fails."""
+# faults_test.py KIND      each call of a kind fails (see world.py), and the next start has a fault, too
+# faults_test.py rows      sequences of starts that once lost something
+# faults_test.py random    random sequences
+# faults_test.py SEED      one of them again
+#
+# A run takes a sample of the calls and sequences; with CORVIMO_WHOLE_MATRIX set it takes all calls, and
+# many sequences. A random sequence that fails is made shorter as long as it fails.
 
 import collections
 import random
@@ -30,7 +30,7 @@ ROWS = {
     "cut late, killed in the roll-back": ("installed", Start(1.0, ("unlink", 20, -SIGKILL))),
     "cut late, unlink fails": ("installed", Start(1.0, ("unlink", 20, EIO))),
     "cut late, opendir fails": ("installed", Start(1.0, ("opendir", 6, EIO))),
-    "cut late, readdir fails": ("installed", Start(1.0, ("readdir", 90, EIO))),
+    "cut late, readdir fails": ("installed", Start(1.0, ("readdir", 120, EIO))),
     "data on both sides": ("older data volume",),
     "no second thread": ("installed", Start(None, ("thread", 1, EAGAIN))),
     "read-only folders, ordinary user": ("installed ordinary", *[Start()] * 11),
@@ -50,6 +50,7 @@ SCENARIOS = {
     "migration onto data on another volume": ("older data volume", None),
     "large upgrade": ("installed data large", None),
 }
+RANDOM = "random sequences"
 LARGE_SAMPLE = 200  # Its calls differ little from each other.
 
 
@@ -66,7 +67,7 @@ def random_sequences(seeds):
         if "tight" in wanted:
             wanted.discard("backup")  # It takes the room.
         starts = [random_start(rng) for _ in range(rng.randint(3, 8))]
-        yield "random sequences", seed, " ".join(sorted(wanted)), starts
+        yield RANDOM, seed, " ".join(sorted(wanted)), starts
 
 
 def matrix(test, kind):
@@ -79,9 +80,8 @@ def matrix(test, kind):
         world.check_start(Start(kept, (call, 0, 0)))
         test.doCleanups()
         count = world.calls
-        steps = min(
-            count, TRIES if not IS_WHOLE else LARGE_SAMPLE if "large" in features else count
-        )
+        sample = LARGE_SAMPLE if "large" in features else count
+        steps = min(count, sample if IS_WHOLE else TRIES)
         seen += count
         for step in range(steps):
             number = 1 + (2 * step + 1) * count // (2 * steps)
@@ -98,12 +98,11 @@ def simpler_cases(features, starts):
         yield features, starts[:i] + starts[i + 1 :]
     for feature in features.split():
         yield " ".join(features.replace(feature, "").split()), starts
-    for i, (kept, (call, number, error), is_newer) in enumerate(starts):
-        faults = NO_FAULT, (call, number // 2, error), (call, max(0, number - 1), error)
-        for simpler in Start(None, *starts[i][1:]), *(
-            Start(kept, fault, is_newer) for fault in faults
-        ):
-            if simpler != starts[i]:
+    for i, start in enumerate(starts):
+        call, number, error = start.fault
+        changes = {"kept": None}, {"fault": NO_FAULT}, {"fault": (call, number // 2, error)}
+        for simpler in (start._replace(**change) for change in changes):
+            if simpler != start:
                 yield features, [*starts[:i], simpler, *starts[i + 1 :]]
 
 
@@ -111,31 +110,30 @@ class FaultsTest(unittest.TestCase):
     what = ""
 
     def cases(self):
-        if self.what in KINDS:
-            return matrix(self, self.what)
-        if self.what == "rows":
-            return rows()
-        if self.what != "random":
+        if self.what.isdigit():
             return random_sequences([int(self.what)])
         first = random.SystemRandom().randrange(10**9)
-        return random_sequences(range(first, first + (3000 if IS_WHOLE else 10 * TRIES)))
+        seeds = range(first, first + (3000 if IS_WHOLE else 10 * TRIES))
+        others = {"rows": rows(), "random": random_sequences(seeds)}
+        return others.get(self.what) or matrix(self, self.what)
 
     def test_loses_nothing(self):
-        tried, good, starts_tried, faults = (collections.Counter() for _ in range(4))
+        results = collections.defaultdict(list)  # Of each try: good, starts, faults.
         for group, name, features, starts in self.cases():
-            tried[group] += 1
-            starts_tried[group] += len(starts) + 2
+            results[group].append((0, 0, 0))
             with self.subTest(group, name=name, features=features, starts=starts):
-                if self.failure_of(features, starts):
+                failure = self.failure_of(features, starts)
+                if failure and group == RANDOM:
                     print("fails:", group, name, flush=True)
                     self.shrink(features, starts)
-                faults[group] += self.struck
+                if failure:
+                    raise failure
                 wanted = sum(start.fault != NO_FAULT for start in starts)
                 self.assertTrue(group != "rows" or self.struck == wanted, "a fault has not struck")
-                good[group] += 1
-        for group, count in tried.items():
-            details = f"{starts_tried[group]} starts, {faults[group]} faults"
-            print(f"figure: {group}: {good[group]} of {count} ({details})")
+                results[group][-1] = 1, len(starts) + 2, self.struck
+        for group, tries in results.items():
+            good, starts, faults = map(sum, zip(*tries))
+            print(f"figure: {group}: {good} of {len(tries)} ({starts} starts, {faults} faults)")
 
     def failure_of(self, features, starts):
         self.struck = 0
