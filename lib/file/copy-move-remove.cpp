@@ -8,6 +8,7 @@
 
 #include "lib/file/file-op-internal.h"
 #include "lib/file/file-op.h"
+#include "lib/platform/platform.h"
 #include "lib/platform/retry.h"
 
 namespace {
@@ -151,7 +152,7 @@ int FSCopy(const std::string& source, const std::string& destination, bool remov
         result = -1;
     }
     // A flush that fails changes nothing: the source is gone by now, or the result says enough.
-    static_cast<void>(FlushFile(to));
+    static_cast<void>(PlatformFlushFile(to.Get()));
     return result;
 }
 

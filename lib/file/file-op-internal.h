@@ -26,9 +26,6 @@ int GetEntryInfo(const std::string& path, const std::string& stored_folder, _FIL
 /// Opens a file, close-on-exec, again after an interruption. None with errno set on failure.
 UniqueFd OpenFile(const std::string& path, int flags, mode_t mode = 0);
 
-/// Flushes a file to stable storage, again after an interruption. Returns 0, or -1 with errno set.
-int FlushFile(const UniqueFd& file);
-
 /// Whether the path leads to a folder, links followed.
 bool IsFolder(const std::string& path);
 

@@ -36,7 +36,7 @@ int FSFsync(const std::string& path) {
         LOG_MSG(ERROR, "FSFsync: open(%s): %s (%d)", path.c_str(), ErrorText(error).c_str(), error);
         return -1;
     }
-    if (FlushFile(file) != 0) {
+    if (PlatformFlushFile(file.Get()) != 0) {
         const int error = errno;
         LOG_MSG(ERROR, "FSFsync: fsync(%s): %s (%d)", path.c_str(), ErrorText(error).c_str(),
                 error);

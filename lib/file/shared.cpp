@@ -23,10 +23,6 @@ UniqueFd OpenFile(const std::string& path, int flags, mode_t mode) {
     return UniqueFd(RetryInterrupted([&] { return open(path.c_str(), flags | O_CLOEXEC, mode); }));
 }
 
-int FlushFile(const UniqueFd& file) {
-    return RetryInterrupted([&] { return fsync(file.Get()); });
-}
-
 bool IsFolder(const std::string& path) {
     struct stat status;
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);

@@ -28,6 +28,12 @@ int PlatformStoredPath(const std::string& path, bool follow_final_link, std::str
 /// was.
 int PlatformFileSystemType(const std::string& path, std::string& type);
 
+/// Flushes what was written to an open file to stable storage, again after an interruption.
+///
+/// On macOS this also empties the cache of the drive, where the file system supports that. Returns 0, or
+/// -1 with errno set.
+int PlatformFlushFile(int fd);
+
 /// Finds the program to run for a system tool, which is named by its absolute path on macOS.
 ///
 /// Elsewhere a bundle may carry a stand-in for it: an executable file at the tool's path below the
