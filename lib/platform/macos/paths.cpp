@@ -4,8 +4,9 @@
 
 #include "lib/platform/platform.h"
 
-// The calls are deprecated since 10.8 and still the only ones that spell every component as the
-// volume stores it.
+// The calls are deprecated since 10.8 and still exported. getattrlist and F_GETPATH tell stored paths as
+// well. They are no fallback here: no object is known that only they accept, and the log names these
+// calls with their error numbers.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
 
