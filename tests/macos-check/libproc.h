@@ -5,4 +5,4 @@
 
 constexpr unsigned PROC_PIDPATHINFO_MAXSIZE = 4096;
 
-extern "C" int proc_pidpath(int pid, void* buffer, uint32_t size);
+int proc_pidpath(int pid, void* buffer, uint32_t size);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "lib/platform/linux/file_system_type.h"
 #include "lib/platform/platform.h"
 #include "lib/platform/retry.h"
 
@@ -23,14 +22,14 @@ constexpr FileSystemType kFileSystemTypes[] = {
     {0x4D44, "msdos"},
 };
 
-}  // namespace
-
 const char* FileSystemTypeName(unsigned long magic) {
     const auto* const found =
         std::find_if(std::begin(kFileSystemTypes), std::end(kFileSystemTypes),
                      [magic](const FileSystemType& type) { return type.magic == magic; });
     return found == std::end(kFileSystemTypes) ? "other" : found->name;
 }
+
+}  // namespace
 
 int PlatformFileSystemType(const std::string& path, std::string& type) {
     struct statfs status;

@@ -1,12 +1,14 @@
-// Declarations of what lib/platform/macos uses of CoreServices, so that it can be type-checked where
-// the real header is not. There is nothing to link.
+// Declarations of what lib/platform/macos uses of CoreServices, so that it can be compiled where the
+// real header is not. macos_test.cpp emulates the calls.
 #pragma once
 
 using OSStatus = int;
 using UInt32 = unsigned int;
 using UInt8 = unsigned char;
 
-struct FSRef {};
+struct FSRef {
+    int fd;
+};
 
 constexpr OSStatus noErr = 0;
 constexpr UInt32 kFSPathMakeRefDoNotFollowLeafSymlink = 1;

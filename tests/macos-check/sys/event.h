@@ -19,8 +19,6 @@ constexpr uint32_t NOTE_EXIT = 0x80000000;
 
 #define EV_SET(event, ...) (*(event) = {__VA_ARGS__})
 
-extern "C" {
 int kqueue();
 int kevent(int queue, const struct kevent* changes, int change_count, struct kevent* events,
            int event_count, const struct timespec* timeout);
-}

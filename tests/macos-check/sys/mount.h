@@ -5,4 +5,4 @@ struct statfs {
     char f_fstypename[16];
 };
 
-extern "C" int statfs(const char* path, struct statfs* status);
+int statfs(const char* path, struct statfs* status);

@@ -15,5 +15,5 @@ struct kinfo_proc {
     } kp_proc;
 };
 
-extern "C" int sysctl(int* name, unsigned name_length, void* value, std::size_t* size,
-                      void* new_value, std::size_t new_size);
+int sysctl(int* name, unsigned name_length, void* value, std::size_t* size, void* new_value,
+           std::size_t new_size);
