@@ -1,5 +1,6 @@
-# The launcher's bundle: the target `bundle` assembles <build>/bundle/Corvimo.app, complete and
-# movable; installing copies exactly the files listed here, and CPack packs what installing gives.
+# The launcher's bundle: the target `bundle` assembles <build>/bundle/Corvimo.app, which runs on this
+# machine; installing copies exactly the files listed here, and CPack packs what installing gives. On
+# macOS installing also adds Qt, libarchive and ICU, which makes the bundle movable, and signs it.
 
 set(CORVIMO_CLIENT_APP "" CACHE PATH
     "Bundle of the client that the launcher carries; empty for the example client")
@@ -32,13 +33,14 @@ endfunction()
 # corvimo_bundle_binary(KIND TARGET NAME)
 #   Copies what TARGET builds to the bundle's Contents/NAME. Unless it is built for debugging, the
 #   copy loses its debug information, which is large and names folders of this machine; the original
-#   keeps it for a debugger.
+#   keeps it for a debugger. Stripping makes the linker's signature invalid, which macOS asks for.
 function(corvimo_bundle_binary kind target name)
     set(copy ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/${name})
     add_custom_command(
         OUTPUT ${copy}
         COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:${target}> ${copy}
         COMMAND "$<$<NOT:$<CONFIG:Debug>>:${CMAKE_STRIP};-S;${copy}>"
+        COMMAND "$<$<PLATFORM_ID:Darwin>:codesign;--force;--sign;-;${copy}>"
         DEPENDS $<TARGET_FILE:${target}>
         COMMENT "Bundling ${name}"
         COMMAND_EXPAND_LISTS
@@ -46,18 +48,18 @@ function(corvimo_bundle_binary kind target name)
     corvimo_bundle_part(${kind} ${name})
 endfunction()
 
-# corvimo_bundle_platform_plugins(NAMES...)
-#   Carries Qt's window system plug-ins: the launcher looks for plug-ins in its bundle and nowhere
-#   else.
-function(corvimo_bundle_platform_plugins)
+# corvimo_bundle_plugins(KIND MODULE NAMES...)
+#   Carries plug-ins that belong to a module of Qt, in the folder that is named for their kind: the
+#   launcher looks for plug-ins in its bundle and nowhere else.
+function(corvimo_bundle_plugins kind module)
     foreach(plugin IN LISTS ARGN)
         if(CORVIMO_QT EQUAL 6)
             # Qt 6 gives every plug-in a package of its own.
-            find_package(Qt6${plugin} REQUIRED PATHS ${Qt6Gui_DIR} NO_DEFAULT_PATH)
+            find_package(Qt6${plugin} REQUIRED PATHS ${Qt6${module}_DIR} NO_DEFAULT_PATH)
         endif()
         get_target_property(file Qt${CORVIMO_QT}::${plugin} LOCATION)
         cmake_path(GET file FILENAME name)
-        corvimo_bundle_file(FILES ${file} Frameworks/plugins/platforms/${name})
+        corvimo_bundle_file(FILES ${file} Frameworks/plugins/${kind}/${name})
     endforeach()
 endfunction()
 
@@ -91,11 +93,13 @@ corvimo_bundle_binary(PROGRAMS launcher MacOS/launcher)
 corvimo_bundle_binary(FILES deskui-qt Frameworks/libdeskui-qt${CMAKE_SHARED_LIBRARY_SUFFIX})
 corvimo_bundle_file(FILES ${resources}/images/ico_72_lumaport.png
     Resources/images/ico_72_lumaport.png)
+corvimo_bundle_file(FILES ${resources}/corvimo.icns Resources/corvimo.icns)
 corvimo_bundle_package()
 if(APPLE)
-    corvimo_bundle_platform_plugins(QCocoaIntegrationPlugin)
+    corvimo_bundle_plugins(platforms Gui QCocoaIntegrationPlugin)
+    corvimo_bundle_plugins(styles Widgets QMacStylePlugin)
 else()
-    corvimo_bundle_platform_plugins(
+    corvimo_bundle_plugins(platforms Gui
         QXcbIntegrationPlugin QOffscreenIntegrationPlugin QMinimalIntegrationPlugin)
     # Stand-ins for two tools of macOS, each below PlatformTools at the path that it has there.
     corvimo_bundle_file(PROGRAMS ${resources}/platform-tools/open PlatformTools/usr/bin/open)
@@ -106,12 +110,10 @@ else()
 endif()
 
 if(APPLE)
-    # Qt itself joins the installed bundle, and every reference to it becomes relative.
-    install(CODE [[
-        include(BundleUtilities)
-        file(GLOB plugins $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/Corvimo.app/Contents/Frameworks/plugins/*/*.dylib)
-        fixup_bundle($ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/Corvimo.app "${plugins}" "")
-    ]] COMPONENT bundle)
+    corvimo_library_folders(library_folders)
+    install(CODE "set(CORVIMO_LIBRARY_FOLDERS [[${library_folders}]])
+        set(CORVIMO_CODESIGN_IDENTITY [[${CORVIMO_CODESIGN_IDENTITY}]])" COMPONENT bundle)
+    install(SCRIPT ${CMAKE_CURRENT_LIST_DIR}/finish-bundle.cmake COMPONENT bundle)
 endif()
 
 if(PROJECT_IS_TOP_LEVEL)

@@ -4,8 +4,8 @@
 #   install-dependencies.sh GROUP...
 #
 # Groups: build (compile the launcher and assemble its bundle), test (what the tests need on top),
-# fuzz, qt6 (the other compiler and the other Qt), analyse, bench, archive, demo and pictures (what each
-# needs on top; the last are those in docs/).
+# fuzz, qt6 (the other compiler and the other Qt), analyse, bench, archive, macos, demo and pictures (what
+# each needs on top; the last are those in docs/).
 # With everything in place it changes nothing and needs neither root nor a network.
 set -euo pipefail
 
@@ -19,8 +19,9 @@ packages_of() {
     analyse) echo clang-tidy clang-tools cppcheck ;;
     bench) echo libbenchmark-dev libspdlog-dev libarchive-tools unzip rsync strace valgrind ;;
     archive) echo debootstrap ;;
+    macos) echo clang file libc++-14-dev libplist-utils lld llvm openssl ;;
     demo) echo fonts-dejavu-core ;;
-    pictures) echo xvfb imagemagick fontconfig graphviz \
+    pictures) echo xvfb icnsutils imagemagick fontconfig graphviz \
         fonts-liberation fonts-noto-cjk fonts-thai-tlwg ;;
     *) return 1 ;;
     esac
@@ -44,7 +45,7 @@ as_root() {
 }
 
 usage() {
-    echo "usage: install-dependencies.sh build|test|fuzz|qt6|analyse|bench|archive|demo|pictures..." >&2
+    echo "usage: install-dependencies.sh build|test|fuzz|qt6|analyse|bench|archive|macos|demo|pictures..." >&2
     exit 2
 }
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs what the tests need, builds, and runs every check: the format, with the data-race checks what runs
 # on several threads without Qt, everything with the address, leak and undefined-behaviour checks, everything
-# with the other compiler and the other Qt, the fuzzers for a few seconds each, clang-tidy and cppcheck, and
-# everything as built for everyday work.
+# with the other compiler and the other Qt, what can be checked of the bundle for macOS, the fuzzers for a few
+# seconds each, clang-tidy and cppcheck, and everything as built for everyday work.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -30,6 +30,9 @@ ctest --preset asan --parallel "$jobs"
 
 build clang-qt6
 ctest --preset clang-qt6 --parallel "$jobs"
+
+echo "== macOS"
+scripts/check-macos.sh
 
 echo "== fuzz"
 scripts/fuzz.sh 10

@@ -1,0 +1,12 @@
+# Signing on macOS. Scripts that run without a project include this file, too.
+
+# corvimo_sign(APP IDENTITY)
+#   Signs the bundle APP and all code in it. A real identity gets what notarisation asks for; "-" signs for
+#   this machine alone. Every later change of the bundle makes the signature invalid.
+function(corvimo_sign app identity)
+    set(options --force --deep --sign ${identity})
+    if(NOT identity STREQUAL "-")
+        list(APPEND options --options runtime --timestamp)
+    endif()
+    execute_process(COMMAND codesign ${options} ${app} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
