@@ -23,6 +23,8 @@ A package is a zip archive of everything below CLIENT.app. Its bytes depend on n
 links and executable bits alone: entries are sorted, bear one fixed time, and have mode 755 when
 they are folders or executable by anybody and 644 otherwise.
 
+What the Finder of macOS leaves behind, files named ._* and .DS_Store, is left out, and named.
+
 The last entry is Contents/Resources/INFO. A launcher that is interrupted while it unpacks therefore
 leaves a copy without a build number, which the next start replaces.
 
@@ -33,6 +35,8 @@ INFO = "Contents/Resources/INFO"
 ENTRY_TIME = (1980, 1, 1, 0, 0, 0)  # The earliest that a zip archive can hold.
 CHUNK = 1 << 20
 MAX_BUILD = 2**31 - 1  # The launcher compares builds as 32-bit signed numbers.
+# What the Finder leaves behind on disks: not the client's, and a person's Mac would take it for metadata.
+FINDER_FILE = re.compile(r"\._.*|\.DS_Store")
 # What zipfile raises about an archive that is damaged or none at all.
 DAMAGE = (zipfile.BadZipFile, zlib.error, struct.error, EOFError, RuntimeError, UnicodeDecodeError)
 
@@ -65,9 +69,12 @@ def packed_mode(disk_mode):
 
 
 def scan(folder, prefix=""):
-    """Yields an Entry for every object below `folder`, in no order."""
+    """Yields an Entry for every object of the client below `folder`, in no order."""
     with os.scandir(folder) as items:
         for item in items:
+            if FINDER_FILE.fullmatch(item.name):
+                print(f"left out: {item.path}", file=sys.stderr)
+                continue
             mode = item.stat(follow_symlinks=False).st_mode
             if stat.S_IFMT(mode) not in (stat.S_IFDIR, stat.S_IFREG, stat.S_IFLNK):
                 raise Refused(f"'{item.path}' is no file, folder or symbolic link; remove it")

@@ -69,8 +69,13 @@ class MakePackageTest(unittest.TestCase):
         copy = shutil.copytree(self.client, self.folder / "copy.app", symlinks=True)
         os.utime(copy / INFO, (1, 1))
         (copy / INFO).chmod(0o666)
+        finder_files = [copy / ".DS_Store", copy / "Contents/._INFO"]
+        for file in finder_files:
+            file.touch()
         no_utf8 = os.environ | {"LC_ALL": "C", "PYTHONUTF8": "0"}
         self.assertEqual(first, self.make(copy, env=no_utf8))
+        told = self.run_script("--verify", self.package, copy)
+        self.assertEqual([f"left out: {f}" for f in finder_files], sorted(told.splitlines())[1:])
 
     def test_a_failed_run_leaves_the_former_package(self):
         limit = (resource.RLIMIT_FSIZE, (9, 9))
