@@ -4,8 +4,8 @@
 #
 #   check-macos.sh
 #
-# 1. Every source of the product compiles and links for arm64 and x86_64, without a warning. Sources with
-#    faults of different kinds do not.
+# 1. Every source of the product compiles and links for arm64 and x86_64, without a warning, and for arm64
+#    those of the tests that a Mac runs. Sources with faults of different kinds do not compile.
 # 2. The bundle of the build tree finds its libraries. The installation gives one that refers to nothing
 #    outside it but the system, and that is signed last: once with libraries as Homebrew has them, once with
 #    Qt as its own installer has it.
@@ -24,7 +24,7 @@ if ! command -v npm >/dev/null; then
     echo "NOT CHECKED: nothing was compiled, linked or bundled for macOS, since npm is not installed" >&2
     exit 0
 fi
-scripts/install-dependencies.sh build macos
+scripts/install-dependencies.sh build test macos
 
 oldest_macos=10.15
 work=$PWD/build/macos-check
@@ -123,7 +123,8 @@ make_libraries() {
         ln -s "libicu$plugin.72.1.dylib" "$MACOS_PREFIX/icu/lib/libicu$plugin.72.dylib"
         ln -s "libicu$plugin.72.dylib" "$MACOS_PREFIX/icu/lib/libicu$plugin.dylib"
     done
-    mkdir -p "$MACOS_PREFIX"/{archive,icu}/include
+    mkdir -p "$MACOS_PREFIX"/{archive,gtest,icu}/include
+    ln -s /usr/include/gtest "$MACOS_PREFIX/gtest/include"
     ln -s /usr/include/archive.h /usr/include/archive_entry.h "$MACOS_PREFIX/archive/include"
     ln -s /usr/include/unicode "$MACOS_PREFIX/icu/include"
     ln -s "$(qmake -qt=5 -query QT_INSTALL_HEADERS)" "$MACOS_PREFIX/qt/include"
@@ -147,7 +148,7 @@ build() {
     mkdir -p "$build"
     # The sources are compiled as for what ships, but not optimised, which takes half the time.
     run "$build/configure.log" cmake --preset macos -B "$build" --toolchain "$here/toolchain.cmake" \
-        -DCORVIMO_TESTS=OFF -DCORVIMO_WARNINGS_AS_ERRORS=ON -DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O0 \
+        -DCORVIMO_TESTS="$tests" -DCORVIMO_WARNINGS_AS_ERRORS=ON -DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O0 \
         -DCORVIMO_CODESIGN_IDENTITY="$1"
     run "$build/build.log" nice cmake --build "$build" --parallel "$jobs"
     ! grep -i 'warning:' "$build/build.log" || fail "the build for $MACOS_ARCHITECTURE has warnings"
@@ -183,10 +184,11 @@ for MACOS_ARCHITECTURE in arm64 x86_64; do
     CODESIGN_RECORD=$build/codesign
     export MACOS_ARCHITECTURE MACOS_PREFIX CODESIGN_RECORD
     if [[ $MACOS_ARCHITECTURE == arm64 ]]; then
-        kind="libraries as Homebrew has them" identity=-
+        kind="libraries as Homebrew has them" identity=- tests=ON
         make_libraries "$MACOS_PREFIX/qt/lib"
     else
-        kind="Qt as its own installer has it" identity="Developer ID Application: Example (A1B2C3D4E5)"
+        kind="Qt as its own installer has it" tests=OFF
+        identity="Developer ID Application: Example (A1B2C3D4E5)"
         make_libraries @rpath -Wl,-rpath,@loader_path/../../lib
     fi
     build "$identity"

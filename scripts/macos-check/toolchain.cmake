@@ -17,6 +17,9 @@ foreach(tool AR RANLIB STRIP NM)
     set(CMAKE_${tool} $ENV{LLVM}/llvm-${name})
 endforeach()
 
+# The tests are compiled and linked, but nothing here can run them.
+set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
+
 # What is called of Qt, libarchive and ICU has no code here.
 foreach(kind EXE SHARED)
     set(CMAKE_${kind}_LINKER_FLAGS_INIT "-fuse-ld=lld -Wl,-undefined,dynamic_lookup")

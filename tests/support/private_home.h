@@ -7,16 +7,16 @@
 
 #include "tests/support/temp_dir.h"
 
-constexpr unsigned kFolder = S_IFDIR | 0755;
-constexpr unsigned kExecutable = S_IFREG | 0755;
-constexpr unsigned kSymbolicLink = S_IFLNK | 0777;
-constexpr unsigned kHardLink = S_IFREG;  // No file here is one that nobody may read.
+constexpr mode_t kFolder = S_IFDIR | 0755;
+constexpr mode_t kExecutable = S_IFREG | 0755;
+constexpr mode_t kSymbolicLink = S_IFLNK | 0777;
+constexpr mode_t kHardLink = S_IFREG;  // No file here is one that nobody may read.
 
 /// One entry of a package.
 struct Entry {
     std::string name;
     std::string content;  ///< Or a link's target.
-    unsigned mode = S_IFREG | 0644;
+    mode_t mode = S_IFREG | 0644;
 };
 
 /// A home folder and launcher resources of a test's own, entered in the path registry.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <stdlib.h>
+#include <unistd.h>  // Declares mkdtemp on macOS.
 
 #include <cerrno>
 #include <filesystem>

@@ -1,8 +1,9 @@
 # Qt for macOS: Debian's headers and tools, and the stand-ins for frameworks that check-macos.sh makes.
+include_guard(GLOBAL)
 set(qt $ENV{MACOS_PREFIX}/qt)
 set(headers $ENV{MACOS_PREFIX}/qt/include)
 
-foreach(module Core Gui Widgets)
+foreach(module Core Gui Widgets Test)
     add_library(Qt5::${module} SHARED IMPORTED)
     set_target_properties(Qt5::${module} PROPERTIES
         IMPORTED_LOCATION ${qt}/lib/Qt${module}.framework/Qt${module}
