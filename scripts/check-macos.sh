@@ -153,6 +153,8 @@ build() {
     run "$build/build.log" nice cmake --build "$build" --parallel "$jobs"
     ! grep -i 'warning:' "$build/build.log" || fail "the build for $MACOS_ARCHITECTURE has warnings"
     check compiler "$build/compile_commands.json"
+    check functions "$build"/{ui-client/launcher/launcher,deskui-qt/libdeskui-qt.dylib,examples/client/corvimo-ui}
+    [[ $tests == OFF ]] || check functions "$build"/tests/bin/*
     check unresolved "$build/bundle/Corvimo.app"
 }
 

@@ -4,6 +4,7 @@ check_bundle.py unresolved APP          references of its binaries that lead now
 check_bundle.py references APP          references of its binaries that leave the bundle
 check_bundle.py seal APP                files that are not as they were when the bundle was signed
 check_bundle.py properties APP OLDEST   faults of its property list
+check_bundle.py functions BINARY...     functions that no library there is known to have
 check_bundle.py compiler COMMANDS       whether the compile command of a source finds what it must find
 
 Exits 0 when nothing is wrong."""
@@ -22,6 +23,12 @@ LLVM = pathlib.Path(os.environ["LLVM"])
 TRANSLATIONS = pathlib.Path(__file__).parents[2] / "ui-client/launcher/texts/translations"
 MACH_O = b"\xcf\xfa\xed\xfe"
 LOADS = "LC_(?:LOAD|LOAD_WEAK|REEXPORT|LAZY_LOAD|LOAD_UPWARD)_DYLIB"
+# Functions of the libraries that have only stand-ins: as the linker names them when they are C's, else as
+# people do.
+STANDING_IN = re.compile(
+    r"_(FS\w+|archive_\w+|__cxa_\w+|__gxx_\w+|u\w+_\d+)"
+    r"|(.* (for|to) )?(Q|q[A-Z]|qt_|qstr|std::|testing::|__cxxabiv1::|operator).*"
+)
 SYSTEM = ("/usr/lib/", "/System/Library/")
 NEEDED = (
     "Frameworks/libdeskui-qt.dylib",
@@ -58,6 +65,17 @@ def is_mach_o(file):
 
 def load_commands(binary):
     return subprocess.check_output([LLVM / "llvm-otool", "-l", binary], text=True)
+
+
+def function_faults(binaries):
+    """The linker takes any function for one of a library that is loaded later; this does not."""
+    for binary in binaries:
+        symbols = subprocess.check_output([LLVM / "llvm-nm", "-m", binary], text=True)
+        unknown = re.findall(r"external (\S+) \(dynamically looked up", symbols)
+        filters = [LLVM / "llvm-cxxfilt", "--strip-underscore", *unknown]
+        for name in subprocess.check_output(filters, text=True).splitlines() if unknown else []:
+            if not STANDING_IN.fullmatch(name):
+                yield f"{binary}: no library has {name}"
 
 
 def names(binary, command):
@@ -170,6 +188,7 @@ def main():
         "references": lambda app: reference_faults(pathlib.Path(app)),
         "seal": lambda app: seal_faults(pathlib.Path(app)),
         "properties": lambda app, oldest: property_faults(pathlib.Path(app), oldest),
+        "functions": lambda *binaries: function_faults(binaries),
         "compiler": compile_faults,
     }
     try:
