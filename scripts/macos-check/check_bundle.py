@@ -5,7 +5,7 @@ check_bundle.py references APP          references of its binaries that leave th
 check_bundle.py seal APP                files that are not as they were when the bundle was signed
 check_bundle.py properties APP OLDEST   faults of its property list
 check_bundle.py functions BINARY...     functions that no library there is known to have
-check_bundle.py compiler COMMANDS       whether the compile command of a source finds what it must find
+check_bundle.py compiler COMMANDS       faults in made-up sources that the project's compile command misses
 
 Exits 0 when nothing is wrong."""
 
@@ -23,8 +23,8 @@ LLVM = pathlib.Path(os.environ["LLVM"])
 TRANSLATIONS = pathlib.Path(__file__).parents[2] / "ui-client/launcher/texts/translations"
 MACH_O = b"\xcf\xfa\xed\xfe"
 LOADS = "LC_(?:LOAD|LOAD_WEAK|REEXPORT|LAZY_LOAD|LOAD_UPWARD)_DYLIB"
-# Functions of the libraries that have only stand-ins: as the linker names them when they are C's, else as
-# people do.
+# Functions of the libraries that have only stand-ins. Names of C functions begin with an underscore; those
+# of C++ are demangled.
 STANDING_IN = re.compile(
     r"_(FS\w+|archive_\w+|__cxa_\w+|__gxx_\w+|u\w+_\d+)"
     r"|(.* (for|to) )?(Q|q[A-Z]|qt_|qstr|std::|testing::|__cxxabiv1::|operator).*"
