@@ -12,8 +12,8 @@ import collections
 import random
 import sys
 import unittest
-from errno import EAGAIN, EIO, EMFILE, ENOSPC
-from signal import SIGHUP, SIGINT, SIGKILL, SIGTERM
+from errno import EIO, EMFILE, ENOSPC
+from signal import SIGKILL
 
 from scene import IS_WHOLE, TRIES, main
 from world import FEATURES, KINDS, MISSING, NO_FAULT, Start, World, random_start
@@ -32,12 +32,7 @@ ROWS = {
     "cut late, opendir fails": ("installed", Start(1.0, ("opendir", 6, EIO))),
     "cut late, readdir fails": ("installed", Start(1.0, ("readdir", 120, EIO))),
     "data on both sides": ("older data volume",),
-    "no second thread": ("installed", Start(None, ("thread", 1, EAGAIN))),
     "read-only folders, ordinary user": ("installed ordinary", *[Start()] * 11),
-    "SIGTERM": ("installed", Start(None, ("change", 40, -SIGTERM))),
-    "SIGHUP": ("installed", Start(None, ("change", 40, -SIGHUP))),
-    "SIGINT": ("installed", Start(None, ("change", 40, -SIGINT))),
-    "client cannot be inspected": ("installed", Start(None, ("place", 1, EIO))),
 }
 
 # What is there, and the share of the package that is not cut off.

@@ -9,8 +9,7 @@ import subprocess
 import time
 import unittest
 
-from scene import APP, CLIENT, GLUED, NOBODY, OPEN, REGISTER, SHORT_CLIENT
-from scene import Scene, main, mount_volume, snapshot, write
+from scene import APP, CLIENT, NOBODY, OPEN, REGISTER, SHORT_CLIENT, Scene, main, snapshot, write
 
 STACK_BYTES = 256 << 10
 LONG_PATH = 4000
@@ -143,19 +142,6 @@ class LauncherTest(unittest.TestCase):
                 makers[kind](path)
                 self.check_run(scene, "100" if name == f"{own}/INFO" else "101")
             self.doCleanups()
-
-    def test_ends_a_record_that_a_full_disk_has_cut(self):
-        scene = self.upgrade()
-        log = scene.home / ".Corvimo/log/launcher.log"
-        log.parent.mkdir()
-        mount_volume(self, log.parent, "size=4k")
-        write(scene.contents / OPEN, "#!/bin/sh\n", 0o755)
-        for _ in range(4):
-            self.check_run(scene)
-        self.assertEqual(4096, log.stat().st_size)
-        subprocess.run(["mount", "-o", "remount,size=1m", log.parent], check=True)
-        self.check_run(scene)
-        self.assertNotRegex(log.read_text(errors="replace"), GLUED)
 
     def test_says_which_tools_could_not_be_started(self):
         scene = self.upgrade()

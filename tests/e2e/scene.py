@@ -53,7 +53,6 @@ RECORD = re.compile(
     r"[\dT:-]{19} \( *\d+: *\d+\) \[(\w+)\] ((?:main|launcher)\(\d+\)|[^ (]+)(?:\(\d+\))?: (.*)"
 )
 
-GLUED = r"(?m)^.+\d{4}-\d\d-\d\dT"  # Two records in one line.
 LIMIT = 120  # Seconds for what takes less than one, or about 15 where a client does not end.
 
 NOBODY = 65534

@@ -8,7 +8,7 @@ import typing
 from errno import EACCES, EAGAIN, EINTR, EIO, EMFILE, ENOMEM, ENOSPC
 from signal import SIGHUP, SIGINT, SIGKILL, SIGTERM
 
-from scene import APP, GLUED, NOBODY, SHORT_CLIENT, Scene, mount_volume, snapshot, write
+from scene import APP, NOBODY, SHORT_CLIENT, Scene, mount_volume, snapshot, write
 
 ERRORS = EIO, ENOSPC, EACCES, EMFILE, ENOMEM, EINTR
 CALLS = "open read write fsync rename mkdir unlink opendir readdir lstat fork chmod".split()
@@ -26,6 +26,7 @@ MISSING = -1.0  # In place of a share of the package.
 # What may be there. Torsos take all backup names but the first. On a tight disk two clients have room,
 # three have not. The package of an ordinary user has folders that nobody may write to.
 FEATURES = "installed older data backup torsos volume tight pipes shared ordinary".split()
+GLUED = r"(?m)^.+\d{4}-\d\d-\d\dT"  # Two records in one line.
 LASTING = {"Corvimo.app", "data", "launcher.lock", "log", "ui.pid"}
 
 
