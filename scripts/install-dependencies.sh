@@ -13,7 +13,7 @@ packages_of() {
     case $1 in
     build) echo g++ cmake ninja-build python3 qtbase5-dev qttools5-dev qttools5-dev-tools \
         libarchive-dev libicu-dev ;;
-    test) echo binutils clang-format git libgtest-dev xvfb ;;
+    test) echo binutils clang-format git libgtest-dev ;;
     fuzz) echo clang libclang-rt-dev ;;
     qt6) echo clang qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev ;;
     analyse) echo clang-tidy clang-tools cppcheck ;;

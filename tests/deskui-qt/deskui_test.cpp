@@ -3,7 +3,6 @@
 
 #include <QProcess>
 #include <QTextStream>
-#include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <tuple>
@@ -71,18 +70,6 @@ TEST(ArvendelLocaleTest, ChoosesTheFirstTranslatedLanguage) {
     }
 }
 
-TEST(DPIinfoTest, RoundsTheScaleToQuartersFromOneUpwards) {
-    // clang-format off
-    const std::tuple<double, double, double> rows[] = {
-        {96, 96, 1.0}, {100, 96, 1.0}, {107, 96, 1.0}, {108, 96, 1.25}, {144, 96, 1.5},
-        {480, 96, 5.0}, {72, 96, 1.0}, {144, 72, 2.0}, {std::nan(""), 96, 1.0},
-    };
-    // clang-format on
-    for (const auto& [logical, design, scale] : rows) {
-        EXPECT_EQ(DPIinfo::scaleForResolution(logical, design), scale) << logical;
-    }
-}
-
 TEST(DPIinfoTest, ScalesLengthsInPxAndNothingElse) {
     // clang-format off
     const std::tuple<double, const char*, const char*> rows[] = {
@@ -105,6 +92,9 @@ TEST(Services, FollowTheEnvironment) {
         {"", "enu 1"}, {"LANG=C.UTF-8", "enu 1"}, {"LANG=zh_HK.UTF-8", "cht 1"},
         {"LANG=de_DE LC_MESSAGES=it_IT", "ita 1"}, {"LC_MESSAGES=it_IT LC_ALL=no_NO", "nor 1"},
         {"LANG=en_US.UTF-8 LANGUAGE=xx:fr:de", "fre 1"},
+        {"QT_FONT_DPI=107 QT_ENABLE_HIGHDPI_SCALING=0", "enu 1"},
+        {"QT_FONT_DPI=108 QT_ENABLE_HIGHDPI_SCALING=0", "enu 1.25"},
+        {"QT_FONT_DPI=72 QT_ENABLE_HIGHDPI_SCALING=0", "enu 1"},
         {"QT_FONT_DPI=192 QT_ENABLE_HIGHDPI_SCALING=0", "enu 2"},  // Qt 6 would scale by itself.
     };
     // clang-format on

@@ -81,7 +81,7 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(1, len(notes))
         for named in str(program.pid), str(pid_file), os.readlink(f"/proc/{program.pid}/exe"):
             self.assertIn(named, notes[0])
-        self.check_installed(scene, "file")
+        self.check_installed(scene)
 
     def test_logs_the_road_of_an_upgrade(self):
         scene = self.upgrade()

@@ -78,3 +78,19 @@ TEST_F(Dialog, ShowsEachPercentOfAnInstallationOnceThenTheClientIsOpened) {
     const std::string calls = "lsregister -u " + home.app + "\nopen -n -a " + home.app + "\n";
     EXPECT_TRUE(QTest::qWaitFor([&] { return ReadFile(home / "calls") == calls; }, 10000));
 }
+
+TEST_F(Dialog, IsNeverShownWhenThereIsNothingToDo) {
+    struct : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            shows += event->type() == QEvent::Show ? 1 : 0;
+            return false;
+        }
+        int shows = 0;
+    } filter;
+    dialog->installEventFilter(&filter);
+    home.InstallClient();
+    launcher.Run();
+    launcher.Start();
+    EXPECT_EQ(0, QApplication::exec());
+    EXPECT_EQ(0, filter.shows);
+}

@@ -228,22 +228,6 @@ TEST(IsNeedUpgrade, ComparesTheBuildNumbersOfTheVersionGroups) {
     EXPECT_TRUE(MacService().IsNeedUpgrade());
 }
 
-TEST(PrepareUserEnv, RollsBackWhatCannotBeUnpacked) {
-    const PrivateHome home;
-    home.Pack({{"Contents/new", "new"}, {"../outside", ""}});
-    const CapturedLog log;
-    EXPECT_EQ(-1, MacService().PrepareUserEnv());
-    home.InstallClient();
-    const TreeSnapshot before = Snapshot(home / ".Corvimo");
-    EXPECT_EQ(-1, MacService().PrepareUserEnv());
-    EXPECT_EQ(before, Snapshot(home / ".Corvimo"));
-    const std::string why = "ERROR extractor: archive_read_extract2 failed: 'Path contains '..''";
-    const std::string failed = kError + "Failed to extract package, ";
-    EXPECT_EQ((Records{why, failed + "and no old installation to rollback", why,
-                       failed + "rollback to old installation"}),
-              log.All());
-}
-
 TEST(PrepareUserEnv, InstallsOnlyWithANameForTheBackup) {
     const PrivateHome home;
     home.InstallClient();
