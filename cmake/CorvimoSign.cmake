@@ -4,6 +4,9 @@
 #   Signs the bundle APP and all code in it. A real identity gets what notarisation asks for; "-" signs for
 #   this machine alone. Every later change of the bundle makes the signature invalid.
 function(corvimo_sign app identity)
+    if(identity STREQUAL "")
+        set(identity -)
+    endif()
     set(options --force --deep --sign ${identity})
     if(NOT identity STREQUAL "-")
         list(APPEND options --options runtime --timestamp)

@@ -10,4 +10,4 @@ set(frameworks ${app}/Contents/Frameworks)
 file(GLOB plugins ${frameworks}/plugins/*/*.dylib)
 set(BU_CHMOD_BUNDLE_ITEMS ON)  # Homebrew's libraries are read-only, and so are their copies.
 fixup_bundle(${app} "${plugins}" "${frameworks};${CORVIMO_LIBRARY_FOLDERS}")
-corvimo_sign(${app} ${CORVIMO_CODESIGN_IDENTITY})
+corvimo_sign(${app} "${CORVIMO_CODESIGN_IDENTITY}")

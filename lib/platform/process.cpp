@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kEmptyInput = "/dev/null";
 
-// Owns what posix_spawn takes. Each function returns 0 or an error number, as those of the system do.
+// Owns what posix_spawn takes. Each step returns whether it succeeded.
 class SpawnSettings {
 public:
     SpawnSettings()
@@ -103,9 +103,12 @@ bool ProcessWatch::WaitForEnd(std::chrono::milliseconds limit) {
     auto rest = limit;
     while (IsWatching() && !has_ended_) {
         const int count = AwaitEvent(rest);
-        has_ended_ = count > 0;
-        if (count >= 0 || errno != EINTR) {
+        if (count >= 0) {
+            has_ended_ = count > 0;
             break;
+        }
+        if (errno != EINTR) {
+            fd_.Close();
         }
         rest = std::max(
             std::chrono::milliseconds(0),

@@ -28,7 +28,8 @@ int PlatformWaitForTool(pid_t tool);
 
 /// What the system tells about a process.
 struct PlatformProcess {
-    /// When it was started, by the clock as it is set now; none when unknown.
+    /// When it was started; none when unknown. A later setting of the clock moves it along on Linux,
+    /// and not on macOS.
     std::optional<std::chrono::system_clock::time_point> start_time;
     /// The stored path of the file that it runs; empty when unknown. For a script that is the
     /// interpreter. After the file's removal the path may have a suffix.
@@ -45,7 +46,8 @@ public:
     /// Begins to watch the process that has this number now.
     explicit ProcessWatch(pid_t pid);
 
-    /// False when there is no such process, or when the system cannot watch one.
+    /// False when there is no such process, when the system cannot watch one, or after a wait that
+    /// failed.
     bool IsWatching() const { return fd_.IsOpen(); }
 
     /// Waits until the process has ended, at most for `limit`. Returns whether it has ended; it may be

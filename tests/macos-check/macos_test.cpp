@@ -110,7 +110,7 @@ int kevent(int queue, const struct kevent* changes, int change_count, struct kev
     }
     last_limit = *timeout;
     struct pollfd request = {queue, POLLIN, 0};
-    const int count = ppoll(&request, 1, timeout, nullptr);
+    const int count = Fails("kevent") ? -1 : ppoll(&request, 1, timeout, nullptr);
     return count == 1 && dup2(UniqueFd(kqueue()).Get(), queue) < 0 ? -1 : count;
 }
 
@@ -150,5 +150,10 @@ TEST(MacosProcess, IsInspectedAndWatchedInTheUnitsOfTheSystem) {
     EXPECT_TRUE(ProcessWatch(tool).WaitForEnd(time));
     EXPECT_EQ(0, PlatformWaitForTool(tool));
     EXPECT_EQ(std::pair(1000L, 250000000L), std::pair(last_limit.tv_sec, last_limit.tv_nsec));
+    errors = {{"kevent", ENOMEM}};
+    ProcessWatch failed(getpid());
+    EXPECT_FALSE(failed.WaitForEnd(time));
+    EXPECT_FALSE(failed.IsWatching());
     EXPECT_EQ("/usr/bin/open", PlatformToolPath("/usr/bin/open"));
+    EXPECT_EQ(72, PlatformDesignDpi());
 }

@@ -103,7 +103,7 @@ BundleParts PartsOfBundle() {
 void RemoveBackups(const std::string& app, int last_index) {
     LOG_MSG(INFO, "user installation is ready, removing backup app");
     for (int index = 0; index <= last_index; ++index) {
-        // One that stays is tried again by the next upgrade that finds its name taken.
+        // Whatever stays is removed before the next installation.
         static_cast<void>(RemoveBundle(GetAppBackupDir(app, index), PartsOfBundle()));
     }
 }

@@ -27,7 +27,7 @@ std::string ProcPath(pid_t pid, const char* name) {
 // The beginning of a file of /proc; empty when it cannot be read.
 std::string ReadProcFile(const std::string& path) {
     const UniqueFd file(RetryInterrupted([&] { return open(path.c_str(), O_RDONLY | O_CLOEXEC); }));
-    std::array<char, 1024> text;  // Three times as long as the longest.
+    std::array<char, 1024> text;  // The fields up to the start time are shorter.
     const ssize_t length =
         RetryInterrupted([&] { return read(file.Get(), text.data(), text.size()); });
     return std::string(text.data(), static_cast<std::size_t>(length < 0 ? 0 : length));

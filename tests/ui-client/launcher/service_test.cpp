@@ -25,7 +25,7 @@ const std::string kError = "ERROR cloud-service: ";
 // No process ever has this number: it is above the largest one that the system gives.
 constexpr pid_t kNoProcess = 4200000;
 
-// The one process that there is for the code under test.
+// What kill() and sleep() tell the code under test.
 struct {
     int error_while_alive = ESRCH;
     int probes_alive = 0;
@@ -121,7 +121,7 @@ TEST(StopService, FollowsTheAnswersOfTheSystem) {
     }
 }
 
-// A busy machine may make a round more of it. What never ends takes 15 seconds; no other test does.
+// A busy machine may make a round more of it. The last two rows take 15 seconds each; no other test does.
 TEST(StopService, WaitsUntilTheClientEndsAndNoLonger) {
     // clang-format off
     const struct { double seconds_to_end, seconds_to_reap; bool is_reused; int status; std::string calls; } rows[] = {

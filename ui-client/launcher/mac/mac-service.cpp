@@ -31,7 +31,7 @@ constexpr int kStopRounds = 15;
 constexpr std::chrono::seconds kRound(1);
 constexpr std::chrono::milliseconds kPauseForParent(5);
 
-// Volumes keep the times of files in units of up to two seconds.
+// Volumes keep the times of files in units of up to two seconds, and here whole seconds are compared.
 constexpr std::chrono::seconds kFileTimeTolerance(2);
 
 constexpr const char* kRegistrationTool =
@@ -147,6 +147,7 @@ bool IsGoneWithinRound(pid_t pid, ProcessWatch& watch) {
     }
     const auto end_of_round = std::chrono::steady_clock::now() + kRound;
     if (!watch.WaitForEnd(kRound)) {
+        std::this_thread::sleep_until(end_of_round);  // The wait may have failed.
         return false;
     }
     // It has ended, and answers the probe until its parent has waited for it. That may take a moment,

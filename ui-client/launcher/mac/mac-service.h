@@ -34,7 +34,8 @@ public:
     ///
     /// The pid file is only read. Nothing is signalled when its pid is 0 or below, which would reach
     /// the launcher's own process group, when it is the launcher's own, or when the process cannot
-    /// have written the file: it was started after the file was last changed, and it runs a program
+    /// have written the file: it was started more than two seconds
+    /// after the file was last changed, and it runs a program
     /// from outside the folder.
     void StopServiceByPath(const QString& folder);
 
