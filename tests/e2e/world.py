@@ -43,7 +43,8 @@ def random_start(rng, is_faulty=False):
     fault = NO_FAULT
     if rng.random() < 0.5 or (is_faulty and kept is None):
         call, errors = KINDS[rng.choice([rng.choice([*KINDS]), "kill"])]
-        fault = call, 1 + int(120 * rng.random() ** 2), rng.choice(errors)
+        number = 1 if call == "thread" else 1 + int(120 * rng.random() ** 2)
+        fault = call, number, rng.choice(errors)
     return Start(kept, fault, rng.random() < 0.5)
 
 
