@@ -29,6 +29,9 @@ UniqueFd OpenFile(const std::string& path, int flags, mode_t mode = 0);
 /// Whether the path leads to a folder, links followed.
 bool IsFolder(const std::string& path);
 
+/// Whether the name of an entry means its folder itself or the folder above.
+bool IsDotOrDotDot(const char* name);
+
 struct CloseFolder {
     void operator()(DIR* stream) const { closedir(stream); }
 };

@@ -95,12 +95,18 @@ int FSCopy(const std::string& source, const std::string& destination, bool remov
 /// fails leaves at the destination what had arrived there, and the rest at the source.
 int FSRename(const std::string& source, const std::string& destination, bool exact);
 
-/// Removes an object and, for a folder, everything below it. Links are removed, not followed; but a
-/// path that ends in "/" names what a link leads to. The flag has no meaning.
+/// Removes an object and, for a folder, everything below it. Symbolic links are removed, not followed; but
+/// a path that ends in "/" names what a link leads to. The flag has no meaning.
+///
+/// Nothing outside the tree is removed, also when another program replaces folders of the tree by links
+/// meanwhile. A folder inside the tree that lies on another volume (a mount) is left alone. The depth
+/// of the tree is not limited; at most 20 descriptors are open at a time.
 ///
 /// Returns 0, also when nothing was there and when the folder `path` could not be opened (it stays
 /// then); -1 for an empty path or an object that cannot be inspected; -3 when something could not
-/// be removed: the removal stops there and the rest of the tree stays.
+/// be removed: the removal stops there and the rest of the tree stays. A folder below `path` that cannot
+/// be opened stays, too, with the folders that lead to it; the removal goes on beside it, and the result
+/// is -3.
 int FSRemove(const std::string& path, bool unused);
 
 /// Gives the owner of a folder the right to list and to change it, and every folder below it the

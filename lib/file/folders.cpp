@@ -1,4 +1,7 @@
+#include <fcntl.h>
+
 #include <cerrno>
+#include <utility>
 
 #include "lib/file/file-op-internal.h"
 #include "lib/file/file-op.h"
@@ -65,6 +68,28 @@ int FSMKDirP(const std::string& path) {
     return 0;
 }
 
+// Appends the paths of the entries, if the object is a folder.
+int MakeFolderWritable(const std::string& path, std::vector<std::string>& entries) {
+    struct stat status;
+    if (lstat(path.c_str(), &status) != 0) {
+        return -1;
+    }
+    if (!S_ISDIR(status.st_mode)) {
+        return 0;
+    }
+    const bool is_writable = (status.st_mode & S_IRWXU) == S_IRWXU;
+    std::vector<std::string> names;
+    if ((!is_writable && fchmodat(AT_FDCWD, path.c_str(), (status.st_mode & 07777) | S_IRWXU,
+                                  AT_SYMLINK_NOFOLLOW) != 0) ||
+        !ReadNames(path, names)) {
+        return -1;
+    }
+    for (const std::string& name : names) {
+        entries.push_back(path + "/" + name);
+    }
+    return 0;
+}
+
 }  // namespace
 
 int FSMKDir(const std::string& path, bool recursive) {
@@ -111,4 +136,17 @@ int FSMKDirFromRoot(const std::string& target, const std::string& root) {
         }
     }
     return 0;
+}
+
+int FSMakeFoldersWritable(const std::string& path) {
+    int result = 0;
+    std::vector<std::string> remaining = {path};
+    while (!remaining.empty()) {
+        const std::string object = std::move(remaining.back());
+        remaining.pop_back();
+        if (MakeFolderWritable(object, remaining) != 0) {
+            result = -1;
+        }
+    }
+    return result;
 }

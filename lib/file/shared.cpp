@@ -7,14 +7,6 @@
 #include "lib/file/file-op-internal.h"
 #include "lib/platform/retry.h"
 
-namespace {
-
-bool IsDotOrDotDot(const char* name) {
-    return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
-}
-
-}  // namespace
-
 std::string ErrorText(int error) {
     return std::generic_category().message(error);
 }
@@ -26,6 +18,10 @@ UniqueFd OpenFile(const std::string& path, int flags, mode_t mode) {
 bool IsFolder(const std::string& path) {
     struct stat status;
     return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+bool IsDotOrDotDot(const char* name) {
+    return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
 }
 
 UniqueDir OpenFolder(const std::string& path) {

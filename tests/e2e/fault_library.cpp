@@ -127,6 +127,11 @@ const char* Inspection(const char* path) {
         return Strikes("open", effect) ? -1 : NEXT(name)(path, flags, mode);        \
     }
 
+// Folders inside a tree that is removed.
+extern "C" int openat(int folder, const char* path, int flags, ...) {
+    return Strikes("opendir", kNone) ? -1 : NEXT(openat)(folder, path, flags);
+}
+
 WRAP_OPEN(open)
 WRAP_OPEN(open64)
 WRAP_WHERE(IsFile(fd), ssize_t, read, "read", kNone, -1, (int fd, void* data, size_t size),
@@ -141,9 +146,13 @@ WRAP(int, symlink, "symlink", kGrowth, -1, (const char* target, const char* path
 WRAP(int, unlink, "unlink", kChange, -1, (const char* path), (path))
 WRAP(int, rmdir, "unlink", kChange, -1, (const char* path), (path))
 WRAP(int, remove, "unlink", kChange, -1, (const char* path), (path))
+WRAP(int, unlinkat, "unlink", kChange, -1, (int folder, const char* path, int flags),
+     (folder, path, flags))
 WRAP(DIR*, opendir, "opendir", kNone, nullptr, (const char* path), (path))
 WRAP(dirent*, readdir, "readdir", kNone, nullptr, (DIR * stream), (stream))
 WRAP(int, chmod, "chmod", kChange, -1, (const char* path, mode_t mode), (path, mode))
+WRAP(int, fchmodat, "chmod", kChange, -1, (int folder, const char* path, mode_t mode, int flags),
+     (folder, path, mode, flags))
 WRAP(int, lstat, Inspection(path), kNone, -1, (const char* path, struct stat* status),
      (path, status))
 WRAP(int, stat, "lstat", kNone, -1, (const char* path, struct stat* status), (path, status))

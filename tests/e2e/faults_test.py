@@ -30,7 +30,7 @@ ROWS = {
     "cut late, killed in the roll-back": ("installed", Start(1.0, ("unlink", 20, -SIGKILL))),
     "cut late, unlink fails": ("installed", Start(1.0, ("unlink", 20, EIO))),
     "cut late, opendir fails": ("installed", Start(1.0, ("opendir", 6, EIO))),
-    "cut late, readdir fails": ("installed", Start(1.0, ("readdir", 120, EIO))),
+    "cut late, readdir fails": ("installed", Start(1.0, ("readdir", 60, EIO))),
     "data on both sides": ("older data volume",),
     "read-only folders, ordinary user": ("installed ordinary", *[Start()] * 11),
 }

@@ -151,16 +151,14 @@ TEST_F(HostilePackage, DamagedAnywhere) {
 }
 
 // The last folders lie deeper than a path reaches: they were made through the link.
-TEST_F(HostilePackage, WhatIsTooDeepToRemoveIsMovedAside) {
-    const TreeSnapshot old = Snapshot(home.app);
+TEST_F(HostilePackage, WhatIsDeeperThanAPathReachesIsRemovedAfterAFailure) {
     home.Pack({{Levels(1900), "", kFolder},
                {"way", Levels(1900), kSymbolicLink},
                {"way/" + Levels(300), "", kFolder},
                {"../outside", "x"}},
               ".tar");
     EXPECT_EQ(-1, MacService().PrepareUserEnv());
-    EXPECT_EQ(old, Snapshot(home.app));
-    EXPECT_EQ(0, FSRemove(home.app + "_tmp1/way/d", false));
+    EXPECT_EQ(before, Snapshot(home / "."));
 }
 
 TEST_F(HostilePackage, LogsWhyAnEntryCannotBeExtracted) {

@@ -1,7 +1,15 @@
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/vfs.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
 
 #include "lib/file/file-op.h"
+#include "tests/support/files.h"
+#include "tests/support/temp_dir.h"
 
 static unsigned file_system_number;
 
@@ -17,4 +25,40 @@ TEST(Volumes, OnANetworkAndOfTheFatTypeAreTold) {
         EXPECT_EQ(number != 0x4D44 && number != 0xEF53, isMountPoint("/")) << std::hex << number;
         EXPECT_EQ(number == 0x4D44, IsMSDOS("/")) << std::hex << number;
     }
+}
+
+namespace {
+
+enum ChildResult { kGood, kBad, kNoMounts };
+
+// Runs in a process of its own: what it mounts goes with that.
+ChildResult RemoveAroundAMount(const TempDir& dir) {
+    WriteDeep(dir / "tree/folder/file", "");
+    std::filesystem::create_directory(dir / "tree/volume");
+    const int name_spaces = CLONE_NEWNS | (geteuid() == 0 ? 0 : CLONE_NEWUSER);
+    if (unshare(name_spaces) != 0 ||
+        mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+        mount("tmpfs", (dir / "tree/volume").c_str(), "tmpfs", 0, nullptr) != 0) {
+        return kNoMounts;
+    }
+    WriteFile(dir / "tree/volume/file", "kept");
+    return FSRemove(dir / "tree", false) == -3 && ReadFile(dir / "tree/volume/file") == "kept"
+               ? kGood
+               : kBad;
+}
+
+}  // namespace
+
+TEST(FSRemove, LeavesAnotherVolumeInsideATreeAlone) {
+    const TempDir dir;
+    const pid_t child = fork();
+    if (child == 0) {
+        _exit(RemoveAroundAMount(dir));
+    }
+    int status = 0;
+    ASSERT_EQ(child, waitpid(child, &status, 0));
+    if (WEXITSTATUS(status) == kNoMounts) {
+        GTEST_SKIP() << "Mounting is not permitted.";
+    }
+    EXPECT_EQ(kGood, status);
 }

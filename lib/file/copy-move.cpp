@@ -75,7 +75,10 @@ UniqueFd OpenForCopy(const std::string& path, int flags, mode_t mode = 0) {
     return file;
 }
 
-int MoveFolderAcrossVolumes(const std::string& source, const std::string& destination, bool exact) {
+int Move(const _FILE_INFO_tag& info, const std::string& source, const std::string& destination);
+
+int MoveFolderAcrossVolumes(const _FILE_INFO_tag& info, const std::string& source,
+                            const std::string& destination) {
     if (FSMKDir(destination, true) != 0) {
         return -3;
     }
@@ -84,7 +87,10 @@ int MoveFolderAcrossVolumes(const std::string& source, const std::string& destin
         return -3;
     }
     for (const std::string& name : names) {
-        if (FSRename(source + "/" + name, destination + "/" + name, exact) != 0) {
+        const std::string entry = source + "/" + name;
+        _FILE_INFO_tag entry_info;
+        if (GetEntryInfo(entry, info.path, entry_info) != 0 || !entry_info.exists ||
+            Move(entry_info, entry, destination + "/" + name) != 0) {
             return -3;
         }
     }
@@ -92,10 +98,10 @@ int MoveFolderAcrossVolumes(const std::string& source, const std::string& destin
 }
 
 int MoveAcrossVolumes(const _FILE_INFO_tag& info, const std::string& source,
-                      const std::string& destination, bool exact) {
+                      const std::string& destination) {
     switch (info.type) {
         case FILE_TYPE_DIR:
-            return MoveFolderAcrossVolumes(source, destination, exact);
+            return MoveFolderAcrossVolumes(info, source, destination);
         case FILE_TYPE_REGULAR:
             return FSCopy(source, destination, true, false) < 0 ? -3 : 0;
         default:
@@ -103,26 +109,20 @@ int MoveAcrossVolumes(const _FILE_INFO_tag& info, const std::string& source,
     }
 }
 
-// FSRemove of a path that has been inspected.
-int RemoveInspected(const std::string& path, const _FILE_INFO_tag& info) {
-    if (!info.exists) {
+// FSRename of an object that has been inspected. Where the path of a folder is the stored one, that of
+// each entry is, too: a listing gives names as they are stored.
+int Move(const _FILE_INFO_tag& info, const std::string& source, const std::string& destination) {
+    if (std::rename(source.c_str(), destination.c_str()) == 0) {
         return 0;
     }
-    if (info.type == FILE_TYPE_DIR) {
-        std::vector<std::string> names;
-        if (!ReadNames(path, names)) {
-            return 0;
-        }
-        for (const std::string& name : names) {
-            const std::string entry = path + "/" + name;
-            _FILE_INFO_tag entry_info;
-            if (GetEntryInfo(entry, info.path, entry_info) != 0 ||
-                RemoveInspected(entry, entry_info) != 0) {
-                return -3;
-            }
-        }
+    switch (errno) {
+        case ENAMETOOLONG:
+            return -100;
+        case EXDEV:
+            return MoveAcrossVolumes(info, source, destination);
+        default:
+            return -3;
     }
-    return std::remove(path.c_str()) == 0 ? 0 : -3;
 }
 
 }  // namespace
@@ -164,46 +164,5 @@ int FSRename(const std::string& source, const std::string& destination, bool exa
     if (!IsFileExist(source, exact) || GetFileInfo(source, info) < 0 || !info.exists) {
         return -2;
     }
-    if (std::rename(source.c_str(), destination.c_str()) == 0) {
-        return 0;
-    }
-    switch (errno) {
-        case ENAMETOOLONG:
-            return -100;
-        case EXDEV:
-            return MoveAcrossVolumes(info, source, destination, exact);
-        default:
-            return -3;
-    }
-}
-
-int FSMakeFoldersWritable(const std::string& path) {
-    struct stat status;
-    if (lstat(path.c_str(), &status) != 0) {
-        return -1;
-    }
-    if (!S_ISDIR(status.st_mode)) {
-        return 0;
-    }
-    const bool is_writable = (status.st_mode & S_IRWXU) == S_IRWXU;
-    std::vector<std::string> names;
-    if ((!is_writable && chmod(path.c_str(), (status.st_mode & 07777) | S_IRWXU) != 0) ||
-        !ReadNames(path, names)) {
-        return -1;
-    }
-    int result = 0;
-    for (const std::string& name : names) {
-        if (FSMakeFoldersWritable(path + "/" + name) != 0) {
-            result = -1;
-        }
-    }
-    return result;
-}
-
-int FSRemove(const std::string& path, bool /*unused*/) {
-    _FILE_INFO_tag info;
-    if (path.empty() || GetFileInfo(path, info) != 0) {
-        return -1;
-    }
-    return RemoveInspected(path, info);
+    return Move(info, source, destination);
 }
