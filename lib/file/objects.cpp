@@ -31,18 +31,14 @@ uint32_t TypeOfMode(mode_t mode) {
     }
 }
 
-_FILE_INFO_tag MissingObject(const std::string& path) {
-    _FILE_INFO_tag info;
+void SetPath(const std::string& path, _FILE_INFO_tag& info) {
     info.path = path;
     info.name = FSBaseName(path);
-    return info;
 }
 
-void FillFromStatus(const struct stat& status, const std::string& path, _FILE_INFO_tag& info) {
+void FillFromStatus(const struct stat& status, _FILE_INFO_tag& info) {
     info.exists = true;
     info.mtime = static_cast<int32_t>(status.st_mtime);
-    info.name = FSBaseName(path);
-    info.path = path;
     info.size = status.st_size;
     info.uid = status.st_uid;
     info.gid = status.st_gid;
@@ -72,12 +68,14 @@ int Inspect(const std::string& path, FindStoredPath find_stored_path, _FILE_INFO
         if (errno != ENOENT) {
             return -1;
         }
-        info = MissingObject(path);
+        info = {};
+        SetPath(path, info);
         return 0;
     }
-    FillFromStatus(status, path, info);
+    FillFromStatus(status, info);
     const uint32_t type = TypeOfMode(status.st_mode);
     if (type == FILE_TYPE_UNKNOWN) {
+        SetPath(path, info);
         return -1;
     }
     info.type = type;
@@ -87,11 +85,11 @@ int Inspect(const std::string& path, FindStoredPath find_stored_path, _FILE_INFO
     const int error = find_stored_path(stored);
     if (error != 0) {
         LOG_MSG(ERROR, "FSPathMakeRef: %d", error);
+        SetPath(path, info);
         return -1;
     }
     LOG_MSG(DEBUG, "FSRefMakePath outTargetPath path = [%s].", stored.c_str());
-    info.name = FSBaseName(stored);
-    info.path = std::move(stored);
+    SetPath(stored, info);
     return 0;
 }
 
@@ -127,7 +125,7 @@ bool IsFileExist(const std::string& path, bool exact) {
     if (GetFileInfo(path, info) < 0 || !info.exists) {
         return false;
     }
-    return !exact || Composed(info.path) == Composed(path);
+    return !exact || info.path == path || Composed(info.path) == Composed(path);
 }
 
 int FSStat(const std::string& path, _FILE_INFO_tag& info, bool exact) {

@@ -11,14 +11,15 @@
 /// The size of a buffer for a stored path, its terminating zero included.
 constexpr std::size_t kStoredPathCapacity = 4096;
 
-/// Finds the path under which the file system knows an object: absolute, the links among its parent
-/// folders resolved, every component spelled as it is stored.
+/// Finds the path under which the file system knows an existing object: absolute, the links among its
+/// parent folders resolved, every component spelled as it is stored.
 ///
 /// A final symbolic link is followed only when `follow_final_link` is set or the path ends in "/". On a
 /// case-insensitive volume of Linux the letter case stays as asked for. `stored` may be `path` itself.
-/// Returns 0 and the path
-/// in `stored`, or the system's own error number (never 0) with `stored` as it was: no such object,
-/// no access, or a stored path that does not fit kStoredPathCapacity.
+///
+/// Returns 0 and the path in `stored`, or the system's own error number (never 0) with `stored` as it
+/// was: no access, a stored path that does not fit kStoredPathCapacity, or no such object. A final
+/// component that is missing and is not to be followed is an error on macOS alone.
 int PlatformStoredPath(const std::string& path, bool follow_final_link, std::string& stored);
 
 /// Names the type of the file system that holds the path: "nfs", "smbfs" or "afpfs" for a network

@@ -30,7 +30,7 @@ TEST(PlatformStoredPath, ResolvesFoldersAndTheFinalLinkByChoice) {
         {dir / "way/", false, dir / "caf\xC3\xA9"},
         {dir.path() + "//way/link", false, dir / "caf\xC3\xA9/link"},
         {dir / "way/link", true, ""},
-        {dir / "none", false, ""},
+        {dir / "none/x", false, ""},
     };
     // clang-format on
     for (const auto& row : rows) {
