@@ -136,7 +136,7 @@
         <translation>正在同步...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>正在同步，剩余 %1 个文件</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>概览</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>同步任务</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>备份任务</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>找不到文件夹</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>只读</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 已移动到 %2。</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%2 更改了 %1 个文件。</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>新文件夹的名称</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>无法创建文件夹“%1”。请选择其他名称或检查您的权限。</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>正在比较两个文件夹...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>已比较 %1/%2 个文件</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>选择性同步</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>选择要同步到此电脑的内容。取消选择的文件夹会从此电脑移除，但仍保留在 Corvimo Server 上。</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>自动同步新文件夹</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>正在加载文件夹...</translation>
+        <source>Loading...</source>
+        <translation>正在加载...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>重试</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>将从此电脑移除 %1 个文件夹。它们仍保留在 Corvimo Server 上。</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>请输入扩展名，例如“iso”。</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>扩展名“%1”已在列表中。</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>名称“%1”已在列表中。</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>“%1”已在列表中。</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>请输入 %1 到 %2 之间的大小。</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>因筛选条件未同步</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>您的选择已保存。Corvimo Client 正在应用这些选择。</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>文稿</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>图片</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>视频</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>音乐</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>正在加载版本...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>已防止自动删除</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server 最多为每个文件保留 %1 个版本。</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>此文件夹的版本历史记录已关闭。请联系 Corvimo Server 的管理员将其开启。</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>删除于 %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>要恢复所选的 %1 个项目吗？</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>已恢复 %1 个项目。</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>无权访问</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>%1 的权限已更改。</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>我的共享</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>已与 %1 人共享</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>请输入链接的密码。</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>有效期至</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>允许的下载次数</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>剩余 %1 次下载</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>删除冲突副本</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>要删除 %1 个冲突副本吗？删除后无法找回。</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>正在查找服务器...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>在此网络上未找到服务器。请手动输入地址。</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>找到 %1 台服务器</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>此服务器上未安装或未运行 Corvimo Server。</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>服务器正在维护。恢复后将继续同步。</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>由于失败次数过多，此电脑已被阻止。请联系管理员解除阻止。</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>防火墙可能阻止了 Corvimo Client。请允许它使用端口 %1。</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>要移除与 %1 的连接吗？它的同步任务会被删除，但您的文件会保留。</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 个文件尚未上传。</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>%1 的证书与以前使用的不同。请向管理员确认证书是否已续期。</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>证书使用的算法已不再安全。</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>有效期自</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>有效期至</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>要清倒废纸篓吗？其中的文件将无法找回。</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>废纸篓已清倒。已释放 %1。</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>请稍候...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>您的存储空间即将用完，仅剩 %1。</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>磁盘空间即将用完</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>磁盘“%2”仅剩 %1。磁盘空间用完后将停止同步。</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>磁盘已满</translation>
+        <source>Not enough disk space</source>
+        <translation>磁盘空间不足</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>文件夹“%1”所在的磁盘未连接。请连接该磁盘以继续同步。</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>磁盘“%1”为只读。无法将 Corvimo Server 上的更改保存到该磁盘。</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>删除临时文件</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>已删除 %1 的临时文件。</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 正在初始化...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>正在从早期版本迁移您的设置。</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>您的设置已迁移。您可以从上次中断的地方继续。</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>早期版本的部分设置无法迁移。请检查您的同步任务。</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>您没有通知。</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 条新通知</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>所有文件均为最新。</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>首次同步已完成。此电脑上现有 %1 个文件。</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>这些文件无法同步。原因消除后，Corvimo Client 将会重试。</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 个问题</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>时间</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>全部重试</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>文件在上传过程中发生更改。它将再次上传。</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>文件在传输途中损坏。它将再次传输。</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>无法读取文件。请检查其权限。</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>无法写入文件。请检查其权限。</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server 目前不接受更改。</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Corvimo Server 的磁盘已满。</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>此文件夹所在的存储卷在 Corvimo Server 上不可用。</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>服务器返回了 Corvimo Client 无法识别的响应。</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>您的会话已结束。请重新登录。</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>发送到服务器的请求过多。稍后将继续同步。</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>写入文件时磁盘被移除。</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>磁盘空间不足</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>内存不足。请关闭其他程序，然后重试。</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>系统监视的文件夹过多，因此可能会延迟发现部分文件夹中的更改。</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>此电脑的时钟与服务器的时钟相差超过 %1 分钟。请将其校准。</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Corvimo Server 不支持此操作。</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>操作已取消。</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>缺少 Corvimo Client 的某个组件。请重新安装客户端。</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>其他程序占用了所有图标位置，因此无法显示状态图标。</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>如果问题仍然存在，请重新启动 Corvimo Client。</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>如果问题仍然存在，请联系 Corvimo Server 的管理员。</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>域</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>如果您的账户属于某个域，请以“域\用户”的形式输入名称。</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>电子邮件地址</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>更改密码</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>您的密码已更改。</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>管理员要求您更改密码。</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>您的密码将在 %1 天后过期。</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>用户名或密码错误。</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>用户名或密码错误。您还可以尝试 %1 次。</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>此电脑的名称</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>已连接的设备</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>信任此设备</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>%1 天内不在此电脑上再次询问</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>请输入您记下的一个恢复代码。每个代码只能使用一次。</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>您还有 %1 个恢复代码。</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>此验证码已使用过。请等待下一个。</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>错误的验证码过多。请等待 %1 分钟后重试。</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>两步验证已开启。</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>备份任务</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>备份任务会将此电脑的文件夹复制到 Corvimo Server，并保留早期版本。</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>桌面</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文稿</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音乐</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>视频</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>正在备份...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>正在备份，%1/%2 个文件</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>尚未备份</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>备份已完成，但 %1 个文件无法读取。</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>备份失败：%1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>错过了计划于 %1 进行的备份。现在开始备份。</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>此电脑已有 %1 天未备份。</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>保留所有版本</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>保留最近 %1 个版本</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>保留版本 %1 天</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>恢复文件</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>选择要恢复的文件和存放位置。</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>恢复到原来的位置</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>替换现有文件</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>正在恢复 %1/%2 个文件</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>已恢复所有文件。</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>已恢复 %1 个文件，%2 个文件无法恢复。</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>验证</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>备份完好。</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>备份中有 %1 个文件已损坏。它们将重新备份。</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>感谢您使用 Corvimo Client。</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>复制版本信息</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>版本信息已复制到剪贴板。</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>删除大量文件前警告我</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>重置设置</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>要重置所有设置吗？您的同步任务将保持不变。</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>此设置由您的管理员管理。</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>所有文件都会列在此电脑上，但仅在您打开文件时才会下载。</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>开启按需文件</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>要为“%1”开启按需文件吗？已在此电脑上的文件会保留。</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>要关闭按需文件吗？此文件夹的所有文件都将下载（%1）。</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>空间不足，无法下载所有文件。还需要 %1。</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>部分在此电脑上</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 个文件将仅在线可用。要继续吗？</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>已释放 %1 的磁盘空间。</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>自动释放空间</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>%1 天未打开的文件变为仅在线</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>选择要在此电脑上使用的团队文件夹。</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>您不是任何团队文件夹的成员。</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>同步所有文件</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>选择文件夹</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client 需要您的许可才能显示通知和读取您的文件夹。</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>打开隐私设置</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>开始之前，请检查您的选择。</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>将下载 %1 个文件（%2）。</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>一切就绪</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client 正在同步您的文件。您可以在菜单栏中找到它。</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>文件上的图标显示其是否已同步。</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>要退出设置吗？您可以稍后继续。</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>找到了早期安装的设置。要使用这些设置吗？</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 字节</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 个文件夹</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 个项目</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1/%2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 个文件，%2 个文件夹</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>上个月</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 秒</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 分钟</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 小时</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 天</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>剩余 %1 秒</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>剩余 %1 分钟</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>剩余 %1 小时</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>不再显示此消息</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>请稍候...</translation>
     </message>
 </context>
 </TS>

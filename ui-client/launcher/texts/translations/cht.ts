@@ -136,7 +136,7 @@
         <translation>正在同步...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>正在同步，剩餘 %1 個檔案</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>總覽</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>同步任務</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>備份任務</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>找不到資料夾</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>唯讀</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 已移動到 %2。</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%2 變更了 %1 個檔案。</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>新資料夾的名稱</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>無法建立資料夾「%1」。請選擇其他名稱或檢查您的權限。</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>正在比較兩個資料夾...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>已比較 %1/%2 個檔案</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>選擇性同步</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>選擇要同步到這台電腦的內容。取消勾選的資料夾會從這台電腦移除，但仍保留在 Corvimo Server 上。</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>自動同步新資料夾</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>正在載入資料夾...</translation>
+        <source>Loading...</source>
+        <translation>正在載入...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>再試一次</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>將從這台電腦移除 %1 個資料夾。它們仍會保留在 Corvimo Server 上。</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>請輸入副檔名，例如「iso」。</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>副檔名「%1」已在列表中。</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>名稱「%1」已在列表中。</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>「%1」已在列表中。</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>請輸入介於 %1 和 %2 之間的大小。</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>因篩選條件而未同步</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>您的選擇已儲存。Corvimo Client 正在套用。</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>文件</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>圖片</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>影片</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>音樂</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>關閉</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>正在載入版本...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>受保護，不會自動刪除</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server 最多為每個檔案保留 %1 個版本。</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>此資料夾的版本記錄已關閉。請洽詢 Corvimo Server 的管理員將其開啟。</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>刪除於 %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>要還原所選的 %1 個項目嗎？</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>已還原 %1 個項目。</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>無存取權</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>已變更 %1 的權限。</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>我共用的項目</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>已與 %1 人共用</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>請輸入連結的密碼。</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>有效期限</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>允許的下載次數</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>剩餘 %1 次下載</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>刪除衝突副本</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>要刪除 %1 個衝突副本嗎？刪除後無法恢復。</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>正在尋找伺服器...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>在此網路上找不到伺服器。請自行輸入位址。</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>找到 %1 台伺服器</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>此伺服器上未安裝或未執行 Corvimo Server。</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>伺服器正在維護。恢復後將繼續同步。</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>由於失敗次數過多，這台電腦已被封鎖。請洽詢管理員解除封鎖。</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>防火牆可能封鎖了 Corvimo Client。請允許它使用連接埠 %1。</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>要移除與 %1 的連線嗎？其同步任務將會刪除，但您的檔案會保留。</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 個檔案尚未上傳。</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>%1 的憑證與先前使用的不同。請向管理員確認憑證是否已更新。</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>憑證使用的演算法已不再安全。</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>有效期自</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>有效期限</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>要清空垃圾桶嗎？其中的檔案將無法恢復。</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>垃圾桶已清空。已釋放 %1。</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>請稍候...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>您的儲存空間即將用完，僅剩 %1。</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>磁碟空間即將用完</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>磁碟「%2」僅剩 %1。磁碟空間用完後將停止同步。</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>磁碟已滿</translation>
+        <source>Not enough disk space</source>
+        <translation>磁碟空間不足</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>資料夾「%1」所在的磁碟未連接。請連接該磁碟以繼續同步。</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>磁碟「%1」為唯讀。無法將 Corvimo Server 上的變更儲存到該磁碟。</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>刪除暫存檔</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>已刪除 %1 的暫存檔。</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 準備中...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>正在從較早的版本轉移您的設定。</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>您的設定已轉移。您可以從上次中斷的地方繼續。</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>較早版本的部分設定無法轉移。請檢查您的同步任務。</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>您沒有通知。</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 則新通知</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>所有檔案均為最新。</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>首次同步已完成。這台電腦上現有 %1 個檔案。</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>這些檔案無法同步。原因排除後，Corvimo Client 將會重試。</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 個問題</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>時間</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>全部重試</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>檔案在上傳過程中有變更。將會再次上傳。</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>檔案在傳輸途中損壞。將會再次傳輸。</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>無法讀取檔案。請檢查其權限。</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>無法寫入檔案。請檢查其權限。</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server 目前不接受變更。</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Corvimo Server 的磁碟已滿。</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>此資料夾所在的磁碟區在 Corvimo Server 上無法使用。</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>伺服器傳回 Corvimo Client 無法識別的回應。</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>您的工作階段已結束。請重新登入。</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>傳送到伺服器的要求過多。稍後將繼續同步。</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>寫入檔案時磁碟被移除。</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>磁碟空間不足</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>記憶體不足。請關閉其他程式，然後再試一次。</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>系統監控的資料夾過多，因此可能會延遲偵測到部分資料夾中的變更。</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>這台電腦的時鐘與伺服器的時鐘相差超過 %1 分鐘。請加以校正。</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Corvimo Server 不支援此動作。</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>動作已取消。</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>缺少 Corvimo Client 的某個元件。請重新安裝用戶端。</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>其他程式已佔用所有圖示位置，因此無法顯示狀態圖示。</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>如果問題仍未解決，請重新啟動 Corvimo Client。</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>如果問題仍未解決，請洽詢 Corvimo Server 的管理員。</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>網域</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>如果您的帳號屬於某個網域，請以「網域\使用者」的格式輸入名稱。</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>電子郵件地址</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>變更密碼</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>您的密碼已變更。</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>管理員要求您變更密碼。</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>您的密碼將在 %1 天後過期。</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>使用者名稱或密碼錯誤。</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>使用者名稱或密碼錯誤。您還可以嘗試 %1 次。</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>這台電腦的名稱</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>已連線的裝置</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>信任此裝置</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>%1 天內不在這台電腦上再次詢問</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>請輸入您記下的一個復原碼。每個復原碼只能使用一次。</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>您還有 %1 個復原碼。</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>此驗證碼已使用過。請等待下一個。</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>錯誤的驗證碼過多。請等待 %1 分鐘後再試。</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>兩步驟驗證已開啟。</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>備份任務</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>備份任務會將這台電腦的資料夾複製到 Corvimo Server，並保留較早的版本。</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>桌面</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>音樂</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>影片</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>正在備份...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>正在備份，%1/%2 個檔案</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>尚未備份</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>備份已完成，但 %1 個檔案無法讀取。</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>備份失敗：%1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>錯過了排定於 %1 的備份。現在開始備份。</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>這台電腦已有 %1 天未備份。</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>保留所有版本</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>保留最近 %1 個版本</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>保留版本 %1 天</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>還原檔案</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>選擇要還原的檔案和存放位置。</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>還原到原來的位置</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>取代現有檔案</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>正在還原 %1/%2 個檔案</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>已還原所有檔案。</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>已還原 %1 個檔案，%2 個檔案無法還原。</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>驗證</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>備份完好。</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>備份中有 %1 個檔案已損壞。將會重新備份。</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>感謝您使用 Corvimo Client。</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>複製版本資訊</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>版本資訊已複製到剪貼簿。</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>刪除大量檔案前警告我</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>重設設定</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>要重設所有設定嗎？您的同步任務將維持不變。</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>此設定由您的管理員管理。</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>所有檔案都會列在這台電腦上，但只有在您打開檔案時才會下載。</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>開啟隨選檔案</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>要為「%1」開啟隨選檔案嗎？已在這台電腦上的檔案會保留。</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>要關閉隨選檔案嗎？此資料夾的所有檔案都將下載（%1）。</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>空間不足，無法下載所有檔案。還需要 %1。</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>部分在這台電腦上</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 個檔案將僅限線上使用。要繼續嗎？</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>已釋放 %1 的磁碟空間。</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>自動釋放空間</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>%1 天未打開的檔案改為僅限線上</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>選擇要在這台電腦上使用的團隊資料夾。</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>您不是任何團隊資料夾的成員。</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>同步所有檔案</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>選擇資料夾</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client 需要您的許可才能顯示通知和讀取您的資料夾。</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>打開隱私權設定</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>開始之前，請檢查您的選擇。</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>將下載 %1 個檔案（%2）。</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>一切就緒</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client 正在同步您的檔案。您可以在選單列中找到它。</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>檔案上的圖示會顯示其是否已同步。</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>要離開設定嗎？您可以稍後繼續。</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>找到較早安裝的設定。要使用這些設定嗎？</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 位元組</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 個資料夾</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 個項目</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1/%2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 個檔案，%2 個資料夾</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>上個月</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 秒</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 分鐘</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 小時</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 天</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>剩餘 %1 秒</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>剩餘 %1 分鐘</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>剩餘 %1 小時</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>不要再顯示此訊息</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>請稍候...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>Synchronizace...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Synchronizace, zbývá souborů: %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Přehled</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Synchronizační úlohy</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Zálohovací úlohy</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Složka nenalezena</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Jen pro čtení</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>Přesunuto: %1 do %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>Změněné soubory: %1. Změny provedl uživatel %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Název nové složky</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Složku „%1“ se nepodařilo vytvořit. Zvolte jiný název nebo zkontrolujte svá oprávnění.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Porovnávání složek...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>Porovnané soubory: %1 z %2</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Selektivní synchronizace</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Vyberte, co se má synchronizovat do tohoto počítače. Složky, jejichž výběr zrušíte, se odeberou z tohoto počítače, ale zůstanou na serveru Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Automaticky synchronizovat nové složky</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Načítání složek...</translation>
+        <source>Loading...</source>
+        <translation>Načítání...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Zkusit znovu</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>Složky, které se odeberou z tohoto počítače: %1. Na serveru Corvimo Server zůstanou.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Zadejte příponu, například „iso“.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Přípona „%1“ již v seznamu je.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Název „%1“ již v seznamu je.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>Položka „%1“ již v seznamu je.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Zadejte velikost od %1 do %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Nesynchronizuje se kvůli filtru</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Váš výběr byl uložen. Aplikace Corvimo Client ho nyní uplatňuje.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Dokumenty</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Obrázky</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Videa</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Hudba</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Zavřít</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Načítání verzí...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Chráněno před automatickým odstraněním</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Nejvyšší počet verzí souboru na serveru Corvimo Server: %1.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>Historie verzí je pro tuto složku vypnutá. Požádejte správce serveru Corvimo Server o její zapnutí.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Odstraněno %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Chcete obnovit vybrané položky (%1)?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Obnovené položky: %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Bez přístupu</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Oprávnění uživatele %1 bylo změněno.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Sdíleno mnou</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Počet osob s přístupem: %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Zadejte heslo pro odkaz.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Platí do</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Povolený počet stažení</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Zbývající stažení: %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Odstranit konfliktní kopie</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Chcete odstranit konfliktní kopie (%1)? Nebude možné je vrátit.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Vyhledávání serverů...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>V této síti nebyl nalezen žádný server. Zadejte jeho adresu sami.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Nalezené servery: %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server není na tomto serveru nainstalován nebo není spuštěn.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Probíhá údržba serveru. Synchronizace bude pokračovat, až bude znovu dostupný.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Tento počítač byl zablokován po příliš mnoha neúspěšných pokusech. Požádejte správce o odblokování.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Aplikaci Corvimo Client možná blokuje brána firewall. Povolte jí používat port %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Chcete odebrat připojení k %1? Jeho synchronizační úlohy budou odstraněny, ale soubory zůstanou.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>Soubory, které ještě nebyly nahrány: %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Certifikát %1 se liší od dříve používaného. Zeptejte se správce, zda byl obnoven.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Certifikát používá algoritmus, který se již nepovažuje za bezpečný.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Platí od</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Platí do</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Chcete vyprázdnit koš? Soubory v něm nebude možné vrátit.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Koš byl vyprázdněn. Uvolněno: %1.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Čekejte prosím...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Vaše úložiště je téměř plné. Zbývá jen %1.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Na disku je málo místa</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Na disku „%2“ zbývá jen %1. Až se disk zaplní, synchronizace se zastaví.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Disk je plný</translation>
+        <source>Not enough disk space</source>
+        <translation>Nedostatek místa na disku</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Disk se složkou „%1“ není připojen. Chcete-li pokračovat v synchronizaci, připojte ho.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Disk „%1“ je jen pro čtení. Změny ze serveru Corvimo Server na něj nelze uložit.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Odstranit dočasné soubory</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>Velikost odstraněných dočasných souborů: %1.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 se inicializuje...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Přebírá se vaše nastavení z předchozí verze.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Vaše nastavení bylo převzato. Můžete pokračovat tam, kde jste skončili.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Některá nastavení předchozí verze se nepodařilo převzít. Zkontrolujte prosím své synchronizační úlohy.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Nemáte žádná oznámení.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Nová oznámení: %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Všechny soubory jsou aktuální.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>První synchronizace je dokončena. Počet souborů v tomto počítači: %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Tyto soubory se nepodařilo synchronizovat. Aplikace Corvimo Client to zkusí znovu, až příčina pomine.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Problémy: %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Čas</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Zkusit vše znovu</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Soubor se během nahrávání změnil. Nahraje se znovu.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Soubor se při přenosu poškodil. Přenese se znovu.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Soubor nelze číst. Zkontrolujte jeho oprávnění.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Soubor nelze zapsat. Zkontrolujte jeho oprávnění.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server v tuto chvíli nepřijímá žádné změny.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Disk serveru Corvimo Server je plný.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Svazek s touto složkou není na serveru Corvimo Server dostupný.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Server odeslal odpověď, které aplikace Corvimo Client nerozumí.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Vaše relace skončila. Přihlaste se prosím znovu.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Na server bylo odesláno příliš mnoho požadavků. Synchronizace bude brzy pokračovat.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Disk byl odpojen během zápisu souborů.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Nedostatek místa na disku</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Nedostatek paměti. Zavřete jiné programy a zkuste to znovu.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Změny v některých složkách mohou být zjištěny se zpožděním, protože systém sleduje příliš mnoho složek.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Hodiny tohoto počítače se od hodin serveru liší o více než %1 min. Nastavte je prosím správně.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Corvimo Server tuto akci nepodporuje.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>Akce byla zrušena.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Chybí součást aplikace Corvimo Client. Nainstalujte klienta znovu.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Ikony stavu nelze zobrazit, protože všechna místa pro ně používají jiné programy.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Pokud problém přetrvává, restartujte aplikaci Corvimo Client.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Pokud problém přetrvává, obraťte se na správce serveru Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Doména</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Pokud váš účet patří do domény, zadejte jméno ve tvaru doména\uživatel.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-mailová adresa</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Název</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Změnit heslo</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Vaše heslo bylo změněno.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Správce vás žádá o změnu hesla.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Počet dní do vypršení platnosti hesla: %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Uživatelské jméno nebo heslo není správné.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Uživatelské jméno nebo heslo není správné. Zbývající pokusy: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Název tohoto počítače</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Připojená zařízení</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Důvěřovat tomuto zařízení</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>V tomto počítači se znovu neptat (počet dní: %1)</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Zadejte jeden z kódů pro obnovení, které jste si zapsali. Každý kód lze použít jen jednou.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Zbývající kódy pro obnovení: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Tento kód již byl použit. Počkejte na další.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Příliš mnoho nesprávných kódů. Počkejte %1 min a zkuste to znovu.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Dvoufázové přihlášení je zapnuté.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Zálohovací úlohy</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Zálohovací úloha kopíruje složky tohoto počítače na server Corvimo Server a uchovává dřívější verze.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Plocha</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumenty</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Obrázky</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Hudba</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videa</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Zálohování...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Zálohování, soubory: %1 z %2</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Zatím nezálohováno</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Zálohování je dokončeno, ale některé soubory se nepodařilo přečíst (%1).</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Zálohování selhalo: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Zálohování naplánované na %1 bylo zmeškáno. Nyní se spustí.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Počet dní, po které tento počítač nebyl zálohován: %1.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Uchovávat všechny verze</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Počet uchovávaných posledních verzí: %1</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Počet dní, po které se verze uchovávají: %1</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Obnovit soubory</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Vyberte soubory, které chcete obnovit, a místo, kam se mají uložit.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Obnovit na původní místo</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Nahradit existující soubory</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Obnovování souborů: %1 z %2</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Všechny soubory byly obnoveny.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>Obnovené soubory: %1, soubory, které se nepodařilo obnovit: %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Ověřit</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Záloha je v pořádku.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Poškozené soubory v záloze: %1. Zálohují se znovu.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Děkujeme, že používáte aplikaci Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Kopírovat informace o verzi</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Informace o verzi byly zkopírovány do schránky.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Upozornit mě před odstraněním mnoha souborů</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Obnovit výchozí nastavení</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Chcete obnovit výchozí hodnoty všech nastavení? Synchronizační úlohy zůstanou beze změny.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Toto nastavení spravuje váš správce.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>V tomto počítači se zobrazují všechny soubory, ale soubor se stáhne, teprve když ho otevřete.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Zapnout soubory na vyžádání</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Chcete zapnout soubory na vyžádání pro „%1“? Soubory, které již v tomto počítači jsou, v něm zůstanou.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Chcete vypnout soubory na vyžádání? Stáhnou se všechny soubory této složky (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Pro stažení všech souborů není dost místa. Je potřeba ještě %1.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Částečně v tomto počítači</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>Soubory, které budou dostupné pouze online: %1. Chcete pokračovat?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>Uvolněné místo na disku: %1.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Uvolňovat místo automaticky</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Převést na „pouze online“ soubory neotevřené po tento počet dní: %1</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Vyberte týmové složky, které chcete mít v tomto počítači.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Nejste členem žádné týmové složky.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Synchronizovat všechny soubory</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Vybrat složky</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Aplikace Corvimo Client potřebuje vaše povolení k zobrazování oznámení a čtení složek.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Otevřít nastavení soukromí</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Než začnete, zkontrolujte své volby.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>Soubory, které se stáhnou: %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Vše je připraveno</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Aplikace Corvimo Client nyní synchronizuje vaše soubory. Najdete ji v řádku nabídek.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Ikony na souborech ukazují, zda jsou synchronizované.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Chcete ukončit nastavení? Můžete pokračovat později.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Bylo nalezeno nastavení z předchozí instalace. Chcete ho použít?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 B</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>Složky: %1</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>Položky: %1</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 z %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>Soubory: %1, složky: %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Minulý měsíc</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 h</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 d</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>Zbývá %1 s</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>Zbývá %1 min</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>Zbývá %1 h</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Tuto zprávu již nezobrazovat</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Čekejte prosím...</translation>
     </message>
 </context>
 </TS>

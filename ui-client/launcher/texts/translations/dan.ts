@@ -136,7 +136,7 @@
         <translation>Synkroniserer...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Synkroniserer, %1 filer tilbage</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Oversigt</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Synkroniseringsopgaver</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Backupopgaver</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Mappen blev ikke fundet</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Skrivebeskyttet</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 blev flyttet til %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%1 filer blev ændret af %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Navn på den nye mappe</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Mappen ”%1” kunne ikke oprettes. Vælg et andet navn, eller kontroller din tilladelse.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Sammenligner begge mapper...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 af %2 filer sammenlignet</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Selektiv synkronisering</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Vælg, hvad der skal synkroniseres til denne computer. Mapper, som du fravælger, fjernes fra denne computer, men bliver på Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Synkroniser nye mapper automatisk</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Indlæser mapper...</translation>
+        <source>Loading...</source>
+        <translation>Indlæser...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Prøv igen</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 mapper bliver fjernet fra denne computer. De bliver på Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Angiv et filtypenavn, for eksempel ”iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Filtypenavnet ”%1” er allerede på listen.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Navnet ”%1” er allerede på listen.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>”%1” er allerede på listen.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Angiv en størrelse mellem %1 og %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Synkroniseres ikke på grund af filter</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Dit valg er gemt. Corvimo Client anvender det nu.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Dokumenter</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Billeder</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Videoer</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Musik</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Luk</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Indlæser versioner...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Beskyttet mod automatisk sletning</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server beholder op til %1 versioner af en fil.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>Versionshistorik er slået fra for denne mappe. Bed administratoren af Corvimo Server om at slå den til.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Slettet %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Vil du gendanne de valgte emner (%1)?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>%1 emner blev gendannet.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Ingen adgang</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Tilladelsen for %1 blev ændret.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Delt af mig</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Delt med %1 personer</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Angiv en adgangskode til linket.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Gyldig til</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Antal tilladte downloads</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>%1 downloads tilbage</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Slet konfliktkopier</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Vil du slette %1 konfliktkopier? De kan ikke gendannes.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Søger efter servere...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Der blev ikke fundet nogen server på dette netværk. Angiv selv adressen.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>%1 servere fundet</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server er ikke installeret eller kører ikke på denne server.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Serveren er under vedligeholdelse. Synkroniseringen fortsætter, når den er tilbage.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Denne computer blev blokeret efter for mange mislykkede forsøg. Bed administratoren om at fjerne blokeringen.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>En firewall blokerer muligvis Corvimo Client. Tillad brug af port %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Vil du fjerne forbindelsen til %1? Dens synkroniseringsopgaver slettes, men dine filer bliver.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 filer er ikke uploadet endnu.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Certifikatet for %1 er ikke det, der blev brugt før. Spørg administratoren, om det er blevet fornyet.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Certifikatet bruger en algoritme, der ikke længere anses for sikker.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Gyldigt fra</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Gyldig til</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Vil du tømme papirkurven? Filerne i den kan ikke gendannes.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Papirkurven blev tømt. %1 er ledig igen.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Vent...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Din lagerplads er næsten fuld. Der er kun %1 tilbage.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Der er ikke meget diskplads</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Der er kun %1 tilbage på disken ”%2”. Synkroniseringen stopper, når disken er fuld.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Disken er fuld</translation>
+        <source>Not enough disk space</source>
+        <translation>Ikke nok diskplads</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Disken med mappen ”%1” er ikke tilsluttet. Tilslut den for at fortsætte synkroniseringen.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Disken ”%1” er skrivebeskyttet. Ændringer fra Corvimo Server kan ikke gemmes på den.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Slet midlertidige filer</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>%1 midlertidige filer blev slettet.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 initialiserer...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Dine indstillinger overføres fra den tidligere version.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Dine indstillinger er overført. Du kan fortsætte, hvor du slap.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Nogle indstillinger fra den tidligere version kunne ikke overføres. Kontroller dine synkroniseringsopgaver.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Du har ingen notifikationer.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 nye notifikationer</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Alle filer er opdaterede.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>Den første synkronisering er færdig. Der er nu %1 filer på denne computer.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Disse filer kunne ikke synkroniseres. Corvimo Client prøver igen, når årsagen er fjernet.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 problemer</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Tidspunkt</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Prøv alle igen</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Filen blev ændret, mens den blev uploadet. Den uploades igen.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Filen blev beskadiget undervejs. Den overføres igen.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Filen kan ikke læses. Kontroller tilladelserne til den.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Der kan ikke skrives til filen. Kontroller tilladelserne til den.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server accepterer ingen ændringer i øjeblikket.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Disken på Corvimo Server er fuld.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Diskenheden med denne mappe er ikke tilgængelig på Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Serveren sendte et svar, som Corvimo Client ikke forstår.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Din session er afsluttet. Log ind igen.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Der blev sendt for mange anmodninger til serveren. Synkroniseringen fortsætter snart.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Disken blev fjernet, mens der blev skrevet filer.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Ikke nok diskplads</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Ikke nok hukommelse. Luk andre programmer, og prøv igen.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Ændringer i nogle mapper bliver måske opdaget sent, fordi systemet overvåger for mange mapper.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Denne computers ur afviger fra serverens ur med mere end %1 minutter. Indstil det korrekt.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Denne handling understøttes ikke af Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>Handlingen blev annulleret.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>En komponent i Corvimo Client mangler. Installer klienten igen.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Statussymbolerne kan ikke vises, fordi andre programmer bruger alle pladserne til dem.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Genstart Corvimo Client, hvis problemet fortsætter.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Spørg administratoren af Corvimo Server, hvis problemet fortsætter.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domæne</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Angiv dit navn som domæne\bruger, hvis din konto hører til et domæne.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-mailadresse</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Skift adgangskode</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Din adgangskode er skiftet.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Administratoren beder dig om at skifte din adgangskode.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Din adgangskode udløber om %1 dage.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Brugernavnet eller adgangskoden er forkert.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Brugernavnet eller adgangskoden er forkert. Resterende forsøg: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Navn på denne computer</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Forbundne enheder</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Hav tillid til denne enhed</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Spørg ikke igen på denne computer i %1 dage</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Angiv en af de gendannelseskoder, du skrev ned. Hver kode virker én gang.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Du har %1 gendannelseskoder tilbage.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Denne kode er allerede brugt. Vent på den næste.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>For mange forkerte koder. Vent %1 minutter, og prøv igen.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Totrinslogin er slået til.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Backupopgaver</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>En backupopgave kopierer mapper på denne computer til Corvimo Server og gemmer tidligere versioner.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Skrivebord</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumenter</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Billeder</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videoer</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Tager backup...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Tager backup, %1 af %2 filer</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Ingen backup endnu</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Backuppen er færdig, men %1 filer kunne ikke læses.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Backuppen mislykkedes: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Backuppen, der var planlagt til %1, blev ikke udført. Den starter nu.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Der er ikke taget backup af denne computer i %1 dage.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Behold alle versioner</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Behold de seneste %1 versioner</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Behold versioner i %1 dage</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Gendan filer</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Vælg de filer, der skal gendannes, og hvor de skal placeres.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Gendan til den oprindelige placering</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Erstat eksisterende filer</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Gendanner %1 af %2 filer</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Alle filer blev gendannet.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>%1 filer blev gendannet, %2 filer kunne ikke gendannes.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Bekræft</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Backuppen er intakt.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>%1 filer i backuppen er beskadiget. Der tages backup af dem igen.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Tak, fordi du bruger Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Kopier versionsoplysninger</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Versionsoplysningerne blev kopieret til udklipsholderen.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Advar mig, før mange filer slettes</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Nulstil indstillinger</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Vil du nulstille alle indstillinger? Dine synkroniseringsopgaver forbliver, som de er.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Denne indstilling administreres af din administrator.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Alle filer vises på denne computer, men en fil downloades først, når du åbner den.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Slå filer efter behov til</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Vil du slå filer efter behov til for ”%1”? Filer, der allerede er på denne computer, bliver her.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Vil du slå filer efter behov fra? Alle filer i denne mappe bliver downloadet (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Der er ikke plads nok til at downloade alle filer. Der mangler %1.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Delvist på denne computer</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 filer bliver kun tilgængelige online. Vil du fortsætte?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 diskplads blev frigjort.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Frigør plads automatisk</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Filer, der ikke er åbnet i %1 dage, bliver kun tilgængelige online</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Vælg de teammapper, du vil have på denne computer.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Du er ikke medlem af en teammappe.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Synkroniser alle filer</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Vælg mapper</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client har brug for din tilladelse til at vise notifikationer og læse dine mapper.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Åbn indstillinger for anonymitet</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Kontroller dine valg, før du begynder.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>%1 filer (%2) bliver downloadet.</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Alt er klar</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client synkroniserer nu dine filer. Du finder programmet på menulinjen.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Symbolerne på dine filer viser, om de er synkroniseret.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Vil du forlade konfigurationen? Du kan fortsætte senere.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Der blev fundet indstillinger fra en tidligere installation. Vil du bruge dem?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 byte</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 mapper</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 emner</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 af %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 filer, %2 mapper</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Sidste måned</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 sekunder</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 minutter</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 timer</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 dage</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 sekunder tilbage</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 minutter tilbage</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 timer tilbage</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Vis ikke denne besked igen</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Vent...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>Synchronisation...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Synchronisation, fichiers restants : %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Vue d&apos;ensemble</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Tâches de synchronisation</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Tâches de sauvegarde</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Dossier introuvable</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Lecture seule</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 a été déplacé vers %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>Fichiers modifiés par %2 : %1.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Nom du nouveau dossier</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Le dossier « %1 » n&apos;a pas pu être créé. Choisissez un autre nom ou vérifiez vos autorisations.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Comparaison des deux dossiers...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 fichiers comparés sur %2</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Synchronisation sélective</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Choisissez ce qui doit être synchronisé sur cet ordinateur. Les dossiers que vous décochez sont retirés de cet ordinateur, mais restent sur Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Synchroniser automatiquement les nouveaux dossiers</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Chargement des dossiers...</translation>
+        <source>Loading...</source>
+        <translation>Chargement...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Réessayer</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>Dossiers qui seront retirés de cet ordinateur : %1. Ils restent sur Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Saisissez une extension, par exemple « iso ».</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>L&apos;extension « %1 » figure déjà dans la liste.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Le nom « %1 » figure déjà dans la liste.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>« %1 » figure déjà dans la liste.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Saisissez une taille comprise entre %1 et %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Exclu par le filtre</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Votre choix a été enregistré. Corvimo Client est en train de l&apos;appliquer.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Documents</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Images</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Vidéos</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Musique</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Chargement des versions...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Protégée contre la suppression automatique</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server conserve jusqu&apos;à %1 versions d&apos;un fichier.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>L&apos;historique des versions est désactivé pour ce dossier. Demandez à l&apos;administrateur de Corvimo Server de l&apos;activer.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Supprimé le %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Voulez-vous restaurer les %1 éléments sélectionnés ?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Éléments restaurés : %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Aucun accès</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>L&apos;autorisation de %1 a été modifiée.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Partagés par moi</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Nombre de personnes ayant accès au partage : %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Saisissez un mot de passe pour le lien.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Valable jusqu&apos;au</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Nombre de téléchargements autorisés</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Téléchargements restants : %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Supprimer les copies en conflit</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Voulez-vous supprimer les copies en conflit (nombre : %1) ? Elles ne pourront pas être récupérées.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Recherche de serveurs...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Aucun serveur n&apos;a été trouvé sur ce réseau. Saisissez vous-même son adresse.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Serveurs trouvés : %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server n&apos;est pas installé ou ne s&apos;exécute pas sur ce serveur.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Le serveur est en maintenance. La synchronisation reprendra à son retour.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Cet ordinateur a été bloqué après un trop grand nombre de tentatives infructueuses. Demandez à l&apos;administrateur de le débloquer.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Un pare-feu bloque peut-être Corvimo Client. Autorisez-le à utiliser le port %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Voulez-vous supprimer la connexion à %1 ? Ses tâches de synchronisation seront supprimées, mais vos fichiers seront conservés.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>Fichiers non encore envoyés : %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Le certificat de %1 n&apos;est pas celui utilisé auparavant. Demandez à l&apos;administrateur s&apos;il a été renouvelé.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Le certificat utilise un algorithme qui n&apos;est plus considéré comme sûr.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Valable à partir du</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Valable jusqu&apos;au</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Voulez-vous vider la corbeille ? Les fichiers qu&apos;elle contient ne pourront pas être récupérés.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>La corbeille a été vidée. %1 sont de nouveau disponibles.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Veuillez patienter...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Votre espace de stockage est presque plein. Il ne reste que %1.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>L&apos;espace disque est faible</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Il ne reste que %1 sur le disque « %2 ». La synchronisation s&apos;arrête lorsque le disque est plein.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Le disque est plein</translation>
+        <source>Not enough disk space</source>
+        <translation>Espace disque insuffisant</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Le disque contenant le dossier « %1 » n&apos;est pas connecté. Connectez-le pour poursuivre la synchronisation.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Le disque « %1 » est en lecture seule. Les modifications provenant de Corvimo Server ne peuvent pas y être enregistrées.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Supprimer les fichiers temporaires</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>Les fichiers temporaires ont été supprimés (%1).</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 est en cours d&apos;initialisation...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Vos réglages sont en cours de reprise depuis la version précédente.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Vos réglages ont été repris. Vous pouvez continuer là où vous en étiez.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Certains réglages de la version précédente n&apos;ont pas pu être repris. Veuillez vérifier vos tâches de synchronisation.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Vous n&apos;avez aucune notification.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Nouvelles notifications : %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Tous les fichiers sont à jour.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>La première synchronisation est terminée. Fichiers présents sur cet ordinateur : %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Ces fichiers n&apos;ont pas pu être synchronisés. Corvimo Client réessaiera lorsque la cause aura disparu.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Problèmes : %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Heure</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Tout réessayer</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Le fichier a été modifié pendant son envoi. Il sera envoyé à nouveau.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Le fichier a été endommagé en cours de route. Il sera transféré à nouveau.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Le fichier ne peut pas être lu. Vérifiez ses autorisations.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Le fichier ne peut pas être écrit. Vérifiez ses autorisations.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server n&apos;accepte aucune modification pour le moment.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Le disque de Corvimo Server est plein.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Le volume contenant ce dossier n&apos;est pas disponible sur Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Le serveur a envoyé une réponse que Corvimo Client ne comprend pas.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Votre session a pris fin. Veuillez vous reconnecter.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Trop de requêtes ont été envoyées au serveur. La synchronisation reprendra bientôt.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Le disque a été retiré pendant l&apos;écriture de fichiers.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Espace disque insuffisant</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Mémoire insuffisante. Fermez d&apos;autres programmes et réessayez.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Les modifications de certains dossiers peuvent être détectées tardivement car le système surveille trop de dossiers.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>L&apos;horloge de cet ordinateur diffère de plus de %1 minutes de celle du serveur. Veuillez la régler.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Cette action n&apos;est pas prise en charge par Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>L&apos;action a été annulée.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Un composant de Corvimo Client est manquant. Réinstallez le client.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Les icônes d&apos;état ne peuvent pas être affichées car d&apos;autres programmes utilisent tous les emplacements prévus.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Si le problème persiste, redémarrez Corvimo Client.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Si le problème persiste, adressez-vous à l&apos;administrateur de Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domaine</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Saisissez votre nom sous la forme domaine\utilisateur si votre compte appartient à un domaine.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>Adresse e-mail</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Changer le mot de passe</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Votre mot de passe a été changé.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>L&apos;administrateur vous demande de changer votre mot de passe.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Jours avant l&apos;expiration de votre mot de passe : %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Le nom d&apos;utilisateur ou le mot de passe est incorrect.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Le nom d&apos;utilisateur ou le mot de passe est incorrect. Essais restants : %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Nom de cet ordinateur</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Appareils connectés</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Faire confiance à cet appareil</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Ne plus demander sur cet ordinateur pendant %1 jours</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Saisissez l&apos;un des codes de récupération que vous avez notés. Chaque code ne fonctionne qu&apos;une fois.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Codes de récupération restants : %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Ce code a déjà été utilisé. Attendez le suivant.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Trop de codes incorrects. Patientez %1 min et réessayez.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>La connexion en deux étapes est activée.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Tâches de sauvegarde</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Une tâche de sauvegarde copie des dossiers de cet ordinateur sur Corvimo Server et conserve les versions antérieures.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Bureau</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musique</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vidéos</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Sauvegarde...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Sauvegarde, %1 fichiers sur %2</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Pas encore sauvegardé</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>La sauvegarde est terminée. Fichiers qui n&apos;ont pas pu être lus : %1.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>La sauvegarde a échoué : %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>La sauvegarde prévue pour %1 n&apos;a pas eu lieu. Elle démarre maintenant.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Cet ordinateur n&apos;a pas été sauvegardé depuis %1 jours.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Conserver toutes les versions</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Conserver les %1 dernières versions</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Conserver les versions pendant %1 jours</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Restaurer des fichiers</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Choisissez les fichiers à restaurer et un emplacement où les placer.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Restaurer à l&apos;emplacement d&apos;origine</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Remplacer les fichiers existants</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Restauration de %1 fichiers sur %2</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Tous les fichiers ont été restaurés.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>Fichiers restaurés : %1, fichiers qui n&apos;ont pas pu être restaurés : %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Vérifier</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>La sauvegarde est intacte.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Fichiers endommagés dans la sauvegarde : %1. Ils seront sauvegardés à nouveau.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Merci d&apos;utiliser Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Copier les informations de version</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Les informations de version ont été copiées dans le presse-papiers.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>M&apos;avertir avant la suppression de nombreux fichiers</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Réinitialiser les réglages</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Voulez-vous réinitialiser tous les réglages ? Vos tâches de synchronisation restent inchangées.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Ce réglage est géré par votre administrateur.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Tous les fichiers figurent sur cet ordinateur, mais un fichier n&apos;est téléchargé que lorsque vous l&apos;ouvrez.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Activer les fichiers à la demande</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Voulez-vous activer les fichiers à la demande pour « %1 » ? Les fichiers déjà présents sur cet ordinateur y restent.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Voulez-vous désactiver les fichiers à la demande ? Tous les fichiers de ce dossier seront téléchargés (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>L&apos;espace est insuffisant pour télécharger tous les fichiers. Il manque %1.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Partiellement sur cet ordinateur</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>Fichiers qui ne seront disponibles qu&apos;en ligne : %1. Voulez-vous continuer ?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 d&apos;espace disque ont été libérés.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Libérer de l&apos;espace automatiquement</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Conserver en ligne uniquement les fichiers non ouverts depuis %1 jours</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Choisissez les dossiers d&apos;équipe que vous souhaitez avoir sur cet ordinateur.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Vous n&apos;êtes membre d&apos;aucun dossier d&apos;équipe.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Synchroniser tous les fichiers</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Choisir des dossiers</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client a besoin de votre autorisation pour afficher des notifications et lire vos dossiers.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Ouvrir les réglages de confidentialité</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Vérifiez vos choix avant de commencer.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>Fichiers qui seront téléchargés : %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Tout est prêt</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client synchronise maintenant vos fichiers. Vous le trouverez dans la barre des menus.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Les icônes sur vos fichiers indiquent s&apos;ils sont synchronisés.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Voulez-vous quitter la configuration ? Vous pourrez continuer plus tard.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Les réglages d&apos;une installation antérieure ont été trouvés. Voulez-vous les utiliser ?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 octets</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 dossiers</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 éléments</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 sur %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>Fichiers : %1, dossiers : %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Le mois dernier</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 h</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 jours</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 s restantes</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 min restantes</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 h restantes</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Ne plus afficher ce message</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Veuillez patienter...</translation>
     </message>
 </context>
 </TS>

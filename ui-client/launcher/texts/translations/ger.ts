@@ -136,7 +136,7 @@
         <translation>Synchronisierung läuft ...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Synchronisierung läuft, verbleibende Dateien: %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Übersicht</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Synchronisierungsaufgaben</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Sicherungsaufgaben</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Ordner nicht gefunden</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Schreibgeschützt</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 wurde nach %2 verschoben.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>Von %2 geänderte Dateien: %1.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Name des neuen Ordners</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Der Ordner „%1“ konnte nicht erstellt werden. Wählen Sie einen anderen Namen oder überprüfen Sie Ihre Berechtigung.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Beide Ordner werden verglichen ...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 von %2 Dateien verglichen</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Selektive Synchronisierung</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Wählen Sie, was auf diesen Computer synchronisiert werden soll. Abgewählte Ordner werden von diesem Computer entfernt, bleiben aber auf Corvimo Server erhalten.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Neue Ordner automatisch synchronisieren</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Ordner werden geladen ...</translation>
+        <source>Loading...</source>
+        <translation>Wird geladen ...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Erneut versuchen</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>Ordner, die von diesem Computer entfernt werden: %1. Auf Corvimo Server bleiben sie erhalten.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Geben Sie eine Erweiterung ein, zum Beispiel „iso“.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Die Erweiterung „%1“ steht bereits in der Liste.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Der Name „%1“ steht bereits in der Liste.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>„%1“ steht bereits in der Liste.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Geben Sie eine Größe zwischen %1 und %2 ein.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Durch Filter ausgeschlossen</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Ihre Auswahl wurde gespeichert. Corvimo Client wendet sie jetzt an.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Dokumente</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Bilder</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Videos</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Musik</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Versionen werden geladen ...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Vor automatischem Löschen geschützt</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server bewahrt bis zu %1 Versionen einer Datei auf.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>Der Versionsverlauf ist für diesen Ordner deaktiviert. Bitten Sie den Administrator von Corvimo Server, ihn zu aktivieren.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Gelöscht am %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Möchten Sie die %1 ausgewählten Elemente wiederherstellen?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Wiederhergestellte Elemente: %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Kein Zugriff</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Die Berechtigung von %1 wurde geändert.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Von mir geteilt</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Geteilt mit Personen: %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Geben Sie ein Passwort für den Link ein.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Gültig bis</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Anzahl erlaubter Downloads</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Verbleibende Downloads: %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Konfliktkopien löschen</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Möchten Sie die Konfliktkopien löschen (Anzahl: %1)? Sie können nicht wiederhergestellt werden.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Server werden gesucht ...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>In diesem Netzwerk wurde kein Server gefunden. Geben Sie die Adresse selbst ein.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Gefundene Server: %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server ist auf diesem Server nicht installiert oder wird nicht ausgeführt.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Der Server wird gerade gewartet. Die Synchronisierung wird fortgesetzt, sobald er wieder verfügbar ist.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Dieser Computer wurde nach zu vielen fehlgeschlagenen Versuchen blockiert. Bitten Sie den Administrator, die Blockierung aufzuheben.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Möglicherweise blockiert eine Firewall Corvimo Client. Erlauben Sie die Nutzung von Port %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Möchten Sie die Verbindung zu %1 entfernen? Die zugehörigen Synchronisierungsaufgaben werden gelöscht, Ihre Dateien bleiben aber erhalten.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>Noch nicht hochgeladene Dateien: %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Das Zertifikat von %1 ist nicht das bisher verwendete. Fragen Sie den Administrator, ob es erneuert wurde.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Das Zertifikat verwendet einen Algorithmus, der nicht mehr als sicher gilt.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Gültig ab</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Gültig bis</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Möchten Sie den Papierkorb entleeren? Die darin enthaltenen Dateien können nicht wiederhergestellt werden.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Der Papierkorb wurde entleert. %1 sind wieder frei.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Bitte warten ...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Ihr Speicher ist fast voll. Es sind nur noch %1 frei.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Wenig Speicherplatz auf dem Laufwerk</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Auf dem Laufwerk „%2“ sind nur noch %1 frei. Die Synchronisierung stoppt, wenn das Laufwerk voll ist.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Das Laufwerk ist voll</translation>
+        <source>Not enough disk space</source>
+        <translation>Nicht genügend Speicherplatz</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Das Laufwerk mit dem Ordner „%1“ ist nicht angeschlossen. Schließen Sie es an, um die Synchronisierung fortzusetzen.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Das Laufwerk „%1“ ist schreibgeschützt. Änderungen von Corvimo Server können darauf nicht gespeichert werden.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Temporäre Dateien löschen</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>Temporäre Dateien wurden gelöscht (%1).</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 wird initialisiert ...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Ihre Einstellungen werden aus der früheren Version übernommen.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Ihre Einstellungen wurden übernommen. Sie können dort weitermachen, wo Sie aufgehört haben.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Einige Einstellungen der früheren Version konnten nicht übernommen werden. Bitte überprüfen Sie Ihre Synchronisierungsaufgaben.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Sie haben keine Mitteilungen.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Neue Mitteilungen: %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Alle Dateien sind auf dem neuesten Stand.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>Die erste Synchronisierung ist abgeschlossen. Dateien auf diesem Computer: %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Diese Dateien konnten nicht synchronisiert werden. Corvimo Client versucht es erneut, sobald die Ursache behoben ist.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Probleme: %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Zeit</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Alle erneut versuchen</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Die Datei hat sich während des Hochladens geändert. Sie wird erneut hochgeladen.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Die Datei wurde bei der Übertragung beschädigt. Sie wird erneut übertragen.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Die Datei kann nicht gelesen werden. Überprüfen Sie ihre Berechtigungen.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Die Datei kann nicht geschrieben werden. Überprüfen Sie ihre Berechtigungen.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server nimmt momentan keine Änderungen an.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Das Laufwerk von Corvimo Server ist voll.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Das Volume mit diesem Ordner ist auf Corvimo Server nicht verfügbar.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Der Server hat eine Antwort gesendet, die Corvimo Client nicht versteht.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Ihre Sitzung ist beendet. Bitte melden Sie sich erneut an.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Es wurden zu viele Anfragen an den Server gesendet. Die Synchronisierung wird in Kürze fortgesetzt.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Das Laufwerk wurde entfernt, während Dateien geschrieben wurden.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Nicht genügend Speicherplatz</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Nicht genügend Arbeitsspeicher. Schließen Sie andere Programme und versuchen Sie es erneut.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Änderungen in einigen Ordnern werden möglicherweise verspätet erkannt, weil das System zu viele Ordner überwacht.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Die Uhr dieses Computers weicht um mehr als %1 Minuten von der Uhr des Servers ab. Bitte stellen Sie sie richtig.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Diese Aktion wird von Corvimo Server nicht unterstützt.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>Die Aktion wurde abgebrochen.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Eine Komponente von Corvimo Client fehlt. Installieren Sie den Client erneut.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Die Statussymbole können nicht angezeigt werden, weil andere Programme alle Plätze dafür belegen.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Wenn das Problem weiterhin besteht, starten Sie Corvimo Client neu.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Wenn das Problem weiterhin besteht, wenden Sie sich an den Administrator von Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domäne</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Geben Sie Ihren Namen als Domäne\Benutzer ein, wenn Ihr Konto zu einer Domäne gehört.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-Mail-Adresse</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Passwort ändern</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Ihr Passwort wurde geändert.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Der Administrator bittet Sie, Ihr Passwort zu ändern.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Tage bis zum Ablauf Ihres Passworts: %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Der Benutzername oder das Passwort ist falsch.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Der Benutzername oder das Passwort ist falsch. Verbleibende Versuche: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Name dieses Computers</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Verbundene Geräte</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Diesem Gerät vertrauen</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Auf diesem Computer %1 Tage lang nicht erneut fragen</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Geben Sie einen der Wiederherstellungscodes ein, die Sie notiert haben. Jeder Code funktioniert nur einmal.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Verbleibende Wiederherstellungscodes: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Dieser Code wurde bereits verwendet. Warten Sie auf den nächsten.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Zu viele falsche Codes. Warten Sie %1 Min. und versuchen Sie es erneut.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Die Anmeldung in zwei Schritten ist aktiviert.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Sicherungsaufgaben</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Eine Sicherungsaufgabe kopiert Ordner dieses Computers auf Corvimo Server und bewahrt frühere Versionen auf.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Schreibtisch</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videos</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Sicherung läuft ...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Sicherung läuft, %1 von %2 Dateien</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Noch nicht gesichert</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Die Sicherung ist abgeschlossen. Dateien, die nicht gelesen werden konnten: %1.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Die Sicherung ist fehlgeschlagen: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Die für %1 geplante Sicherung wurde verpasst. Sie startet jetzt.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Dieser Computer wurde seit %1 Tagen nicht gesichert.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Alle Versionen behalten</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Die letzten %1 Versionen behalten</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Versionen %1 Tage lang behalten</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Dateien wiederherstellen</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Wählen Sie die wiederherzustellenden Dateien und einen Ort dafür.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Am ursprünglichen Ort wiederherstellen</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Vorhandene Dateien ersetzen</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>%1 von %2 Dateien werden wiederhergestellt</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Alle Dateien wurden wiederhergestellt.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>Wiederhergestellte Dateien: %1, nicht wiederherstellbare Dateien: %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Überprüfen</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Die Sicherung ist unversehrt.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Beschädigte Dateien in der Sicherung: %1. Sie werden erneut gesichert.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Vielen Dank, dass Sie Corvimo Client verwenden.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Versionsinformationen kopieren</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Die Versionsinformationen wurden in die Zwischenablage kopiert.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Warnen, bevor viele Dateien gelöscht werden</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Einstellungen zurücksetzen</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Möchten Sie alle Einstellungen zurücksetzen? Ihre Synchronisierungsaufgaben bleiben unverändert.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Diese Einstellung wird von Ihrem Administrator verwaltet.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Alle Dateien werden auf diesem Computer aufgelistet, aber eine Datei wird erst heruntergeladen, wenn Sie sie öffnen.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Dateien bei Bedarf aktivieren</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Möchten Sie Dateien bei Bedarf für „%1“ aktivieren? Bereits auf diesem Computer vorhandene Dateien bleiben hier.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Möchten Sie Dateien bei Bedarf deaktivieren? Alle Dateien dieses Ordners werden heruntergeladen (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Zum Herunterladen aller Dateien ist nicht genügend Speicherplatz frei. Es werden weitere %1 benötigt.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Teilweise auf diesem Computer</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>Dateien, die nur noch online verfügbar sein werden: %1. Möchten Sie fortfahren?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 Speicherplatz wurden freigegeben.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Speicherplatz automatisch freigeben</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Dateien, die %1 Tage lang nicht geöffnet wurden, nur online behalten</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Wählen Sie die Teamordner, die Sie auf diesem Computer haben möchten.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Sie sind in keinem Teamordner Mitglied.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Alle Dateien synchronisieren</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Ordner auswählen</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client benötigt Ihre Erlaubnis, Mitteilungen anzuzeigen und Ihre Ordner zu lesen.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Datenschutzeinstellungen öffnen</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Überprüfen Sie Ihre Auswahl, bevor Sie beginnen.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>Herunterzuladende Dateien: %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Alles ist eingerichtet</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client synchronisiert jetzt Ihre Dateien. Sie finden das Programm in der Menüleiste.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Die Symbole auf Ihren Dateien zeigen, ob sie synchronisiert sind.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Möchten Sie die Einrichtung verlassen? Sie können sie später fortsetzen.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Es wurden Einstellungen einer früheren Installation gefunden. Möchten Sie diese verwenden?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 Byte</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 Ordner</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 Elemente</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 von %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>Dateien: %1, Ordner: %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Letzter Monat</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 Sek.</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 Min.</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 Std.</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 Tage</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>Noch %1 Sek.</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>Noch %1 Min.</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>Noch %1 Std.</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Diese Meldung nicht mehr anzeigen</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Bitte warten ...</translation>
     </message>
 </context>
 </TS>

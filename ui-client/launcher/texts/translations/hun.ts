@@ -136,7 +136,7 @@
         <translation>Szinkronizálás...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Szinkronizálás, %1 fájl van hátra</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Áttekintés</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Szinkronizálási feladatok</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Biztonsági mentési feladatok</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>A mappa nem található</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Csak olvasható</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>Áthelyezve: %1, új hely: %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%1 fájl módosult, a módosító: %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Az új mappa neve</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Nem sikerült létrehozni a következő mappát: „%1”. Válasszon másik nevet, vagy ellenőrizze a jogosultságát.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>A két mappa összehasonlítása...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1/%2 fájl összehasonlítva</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Szelektív szinkronizálás</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Válassza ki, mi szinkronizálódjon erre a számítógépre. A jelöletlenné tett mappák eltűnnek erről a számítógépről, de a Corvimo Server kiszolgálón megmaradnak.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Új mappák automatikus szinkronizálása</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Mappák betöltése...</translation>
+        <source>Loading...</source>
+        <translation>Betöltés...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Újra</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 mappa eltűnik erről a számítógépről. A Corvimo Server kiszolgálón megmaradnak.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Adjon meg egy kiterjesztést, például: „iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Már szerepel a listában ez a kiterjesztés: „%1”.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Már szerepel a listában ez a név: „%1”.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>Már szerepel a listában: „%1”.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Adjon meg egy méretet %1 és %2 között.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>A szűrő miatt nem szinkronizált</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>A választását mentettük. A Corvimo Client most alkalmazza.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Dokumentumok</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Képek</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Videók</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Zene</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Bezárás</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Verziók betöltése...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Automatikus törlés ellen védett</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>A Corvimo Server fájlonként legfeljebb %1 verziót őriz meg.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>A verzióelőzmények ki vannak kapcsolva ennél a mappánál. Kérje meg a Corvimo Server rendszergazdáját, hogy kapcsolja be őket.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Törlés ideje: %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Visszaállítja a kijelölt %1 elemet?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>%1 elem visszaállítva.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Nincs hozzáférés</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>%1 jogosultsága módosult.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Általam megosztva</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Megosztva %1 személlyel</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Adjon meg egy jelszót a hivatkozáshoz.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Érvényesség vége</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Engedélyezett letöltések száma</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>%1 letöltés van hátra</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Ütköző másolatok törlése</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Törli az ütköző másolatokat (%1 db)? Nem állíthatók vissza.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Kiszolgálók keresése...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Nem található kiszolgáló ezen a hálózaton. Adja meg Ön a címét.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>%1 kiszolgáló található</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>A Corvimo Server nincs telepítve vagy nem fut ezen a kiszolgálón.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>A kiszolgáló karbantartás alatt áll. A szinkronizálás folytatódik, amint újra elérhető.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Ez a számítógép túl sok sikertelen kísérlet miatt le van tiltva. Kérje meg a rendszergazdát, hogy oldja fel a letiltást.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Lehet, hogy egy tűzfal blokkolja a Corvimo Client alkalmazást. Engedélyezze számára a következő portot: %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Eltávolítja a következő kapcsolatot: %1? A szinkronizálási feladatai törlődnek, de a fájlok megmaradnak.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 fájl még nincs feltöltve.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>%1 tanúsítványa nem egyezik a korábban használttal. Kérdezze meg a rendszergazdát, hogy megújították-e.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>A tanúsítvány olyan algoritmust használ, amely már nem számít biztonságosnak.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Érvényesség kezdete</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Érvényesség vége</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Kiüríti a Kukát? A benne lévő fájlok nem állíthatók vissza.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>A Kuka kiürült. Felszabadult hely: %1.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Kérjük, várjon...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>A tárhelye majdnem megtelt. Már csak %1 maradt.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Kevés a lemezterület</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Már csak %1 maradt a következő lemezen: „%2”. Ha a lemez megtelik, a szinkronizálás leáll.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>A lemez megtelt</translation>
+        <source>Not enough disk space</source>
+        <translation>Nincs elég lemezterület</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>A következő mappát tartalmazó lemez nincs csatlakoztatva: „%1”. Csatlakoztassa a szinkronizálás folytatásához.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>A következő lemez csak olvasható: „%1”. A Corvimo Server kiszolgálón végzett módosítások nem menthetők rá.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Ideiglenes fájlok törlése</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>%1 ideiglenes fájl törölve.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>A %1 inicializálása folyamatban...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>A korábbi verzió beállításainak átvétele folyamatban van.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>A beállításai átvétele befejeződött. Ott folytathatja, ahol abbahagyta.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>A korábbi verzió néhány beállítását nem sikerült átvenni. Ellenőrizze a szinkronizálási feladatait.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Nincsenek értesítései.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 új értesítés</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Minden fájl naprakész.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>Az első szinkronizálás befejeződött. Mostantól %1 fájl van ezen a számítógépen.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Ezeket a fájlokat nem sikerült szinkronizálni. A Corvimo Client újra próbálkozik, amint az ok megszűnt.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 probléma</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Idő</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Összes újra</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>A fájl feltöltés közben módosult. Újra feltöltődik.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>A fájl átvitel közben megsérült. Újra átvitelre kerül.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>A fájl nem olvasható. Ellenőrizze a jogosultságait.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>A fájl nem írható. Ellenőrizze a jogosultságait.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>A Corvimo Server jelenleg nem fogad módosításokat.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>A Corvimo Server lemeze megtelt.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Az ezt a mappát tartalmazó kötet nem érhető el a Corvimo Server kiszolgálón.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>A kiszolgáló olyan választ küldött, amelyet a Corvimo Client nem ért.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>A munkamenete véget ért. Jelentkezzen be újra.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Túl sok kérés érkezett a kiszolgálóhoz. A szinkronizálás hamarosan folytatódik.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>A lemezt fájlok írása közben eltávolították.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Nincs elég lemezterület</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Nincs elég memória. Zárjon be más programokat, és próbálja újra.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Egyes mappák módosításai késve észlelhetők, mert a rendszer túl sok mappát figyel.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>A számítógép órája több mint %1 perccel eltér a kiszolgáló órájától. Állítsa be pontosan.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>A Corvimo Server nem támogatja ezt a műveletet.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>A műveletet megszakították.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Hiányzik a Corvimo Client egyik összetevője. Telepítse újra a klienst.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Az állapotikonok nem jeleníthetők meg, mert minden helyüket más programok használják.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Ha a probléma nem szűnik meg, indítsa újra a Corvimo Client alkalmazást.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Ha a probléma nem szűnik meg, forduljon a Corvimo Server rendszergazdájához.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Tartomány</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Ha a fiókja egy tartományhoz tartozik, tartomány\felhasználó formában adja meg a nevét.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-mail-cím</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Név</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Jelszó módosítása</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>A jelszava módosult.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>A rendszergazda a jelszava módosítását kéri.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>A jelszava %1 nap múlva lejár.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>A felhasználónév vagy a jelszó hibás.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>A felhasználónév vagy a jelszó hibás. Még %1 alkalommal próbálkozhat.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>A számítógép neve</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Kapcsolódó eszközök</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Megbízom ebben az eszközben</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Ne kérdezze újra ezen a számítógépen %1 napig</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Adja meg az egyik feljegyzett helyreállítási kódot. Mindegyik kód egyszer használható.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Még %1 helyreállítási kódja van.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Ezt a kódot már felhasználták. Várja meg a következőt.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Túl sok hibás kód. Várjon %1 percet, és próbálja újra.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>A kétlépéses bejelentkezés be van kapcsolva.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Biztonsági mentési feladatok</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>A biztonsági mentési feladat a számítógép mappáit a Corvimo Server kiszolgálóra másolja, és megőrzi a korábbi verziókat.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Íróasztal</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumentumok</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Képek</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Zene</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videók</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Biztonsági mentés folyamatban...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Biztonsági mentés, %1/%2 fájl</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Még nem készült biztonsági mentés</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>A biztonsági mentés befejeződött, de %1 fájlt nem sikerült beolvasni.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>A biztonsági mentés sikertelen: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Az erre az időpontra tervezett biztonsági mentés elmaradt: %1. Most elindul.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Erről a számítógépről %1 napja nem készült biztonsági mentés.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Minden verzió megőrzése</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Az utolsó %1 verzió megőrzése</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Verziók megőrzése %1 napig</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Fájlok visszaállítása</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Válassza ki a visszaállítandó fájlokat és a helyüket.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Visszaállítás az eredeti helyre</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Meglévő fájlok lecserélése</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>%1/%2 fájl visszaállítása</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Minden fájl visszaállítva.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>%1 fájl visszaállítva, %2 fájlt nem sikerült visszaállítani.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Ellenőrzés</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>A biztonsági mentés ép.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>%1 fájl sérült a biztonsági mentésben. Újra mentésre kerülnek.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Köszönjük, hogy a Corvimo Client alkalmazást használja.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Verzióinformációk másolása</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>A verzióinformációk a vágólapra kerültek.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Figyelmeztessen sok fájl törlése előtt</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Beállítások visszaállítása</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Visszaállítja az összes beállítást az alapértékre? A szinkronizálási feladatok változatlanok maradnak.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Ezt a beállítást a rendszergazda kezeli.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Ezen a számítógépen minden fájl látható, de egy fájl csak akkor töltődik le, amikor megnyitja.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Igény szerinti fájlok bekapcsolása</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Bekapcsolja az igény szerinti fájlokat a következőhöz: „%1”? A már ezen a számítógépen lévő fájlok itt maradnak.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Kikapcsolja az igény szerinti fájlokat? A mappa minden fájlja letöltődik (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Nincs elég hely az összes fájl letöltéséhez. Még %1 szükséges.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Részben ezen a számítógépen</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 fájl csak online lesz elérhető. Folytatja?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 lemezterület felszabadult.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Hely automatikus felszabadítása</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>A %1 napja meg nem nyitott fájlok váljanak csak online elérhetővé</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Válassza ki, mely csapatmappákat szeretné ezen a számítógépen.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Egyetlen csapatmappának sem tagja.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Minden fájl szinkronizálása</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Mappák kiválasztása</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>A Corvimo Client az Ön engedélyét kéri az értesítések megjelenítéséhez és a mappái olvasásához.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Adatvédelmi beállítások megnyitása</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Kezdés előtt ellenőrizze a választásait.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>%1 fájl (%2) fog letöltődni.</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Minden készen áll</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>A Corvimo Client most szinkronizálja a fájljait. Az alkalmazást a menüsorban találja.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>A fájlok ikonjai mutatják, hogy szinkronizálva vannak-e.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Kilép a beállításból? Később folytathatja.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Egy korábbi telepítés beállításai találhatók a gépen. Használja őket?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 bájt</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 mappa</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 elem</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 / %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 fájl, %2 mappa</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Múlt hónapban</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 másodperc</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 perc</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 óra</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 nap</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 másodperc van hátra</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 perc van hátra</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 óra van hátra</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Ne jelenjen meg többé ez az üzenet</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Kérjük, várjon...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>Sincronizzazione in corso...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Sincronizzazione in corso, file rimanenti: %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Panoramica</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Attività di sincronizzazione</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Attività di backup</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Cartella non trovata</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Sola lettura</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 è stato spostato in %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>File modificati da %2: %1.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Nome della nuova cartella</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Non è stato possibile creare la cartella “%1”. Scegli un altro nome o verifica i tuoi permessi.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Confronto delle due cartelle in corso...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 di %2 file confrontati</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Sincronizzazione selettiva</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Scegli che cosa sincronizzare su questo computer. Le cartelle deselezionate vengono rimosse da questo computer, ma rimangono su Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Sincronizza automaticamente le nuove cartelle</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Caricamento delle cartelle...</translation>
+        <source>Loading...</source>
+        <translation>Caricamento...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Riprova</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>Cartelle che verranno rimosse da questo computer: %1. Rimangono su Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Inserisci un&apos;estensione, ad esempio “iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>L&apos;estensione “%1” è già nell&apos;elenco.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Il nome “%1” è già nell&apos;elenco.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>“%1” è già nell&apos;elenco.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Inserisci una dimensione compresa tra %1 e %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Escluso dal filtro</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>La tua scelta è stata salvata. Corvimo Client la sta applicando.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Documenti</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Immagini</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Video</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Musica</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Chiudi</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Caricamento delle versioni...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Protetta dall&apos;eliminazione automatica</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server conserva fino a %1 versioni di un file.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>La cronologia delle versioni è disattivata per questa cartella. Chiedi all&apos;amministratore di Corvimo Server di attivarla.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Eliminato il %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Vuoi ripristinare i %1 elementi selezionati?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Elementi ripristinati: %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Nessun accesso</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Il permesso di %1 è stato modificato.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Condivisi da me</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Persone con accesso: %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Inserisci una password per il link.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Valido fino al</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Numero di download consentiti</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Download rimanenti: %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Elimina copie in conflitto</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Vuoi eliminare le copie in conflitto (numero: %1)? Non potranno essere recuperate.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Ricerca di server...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Non è stato trovato alcun server in questa rete. Inserisci manualmente l&apos;indirizzo.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Server trovati: %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server non è installato o non è in esecuzione su questo server.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Il server è in manutenzione. La sincronizzazione continuerà quando sarà di nuovo disponibile.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Questo computer è stato bloccato dopo troppi tentativi non riusciti. Chiedi all&apos;amministratore di sbloccarlo.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>È possibile che un firewall stia bloccando Corvimo Client. Consentigli di usare la porta %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Vuoi rimuovere la connessione a %1? Le relative attività di sincronizzazione vengono eliminate, ma i tuoi file rimangono.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>File non ancora caricati: %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Il certificato di %1 non è quello usato in precedenza. Chiedi all&apos;amministratore se è stato rinnovato.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Il certificato usa un algoritmo che non è più considerato sicuro.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Valido dal</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Valido fino al</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Vuoi svuotare il cestino? I file che contiene non potranno essere recuperati.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Il cestino è stato svuotato. %1 sono di nuovo disponibili.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Attendi...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Il tuo spazio di archiviazione è quasi esaurito. Rimangono solo %1.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Lo spazio su disco sta per esaurirsi</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Rimangono solo %1 sul disco “%2”. La sincronizzazione si interrompe quando il disco è pieno.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Il disco è pieno</translation>
+        <source>Not enough disk space</source>
+        <translation>Spazio su disco insufficiente</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Il disco con la cartella “%1” non è collegato. Collegalo per continuare la sincronizzazione.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Il disco “%1” è di sola lettura. Le modifiche di Corvimo Server non possono esservi salvate.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Elimina file temporanei</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>I file temporanei sono stati eliminati (%1).</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 sta inizializzando...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Importazione delle impostazioni dalla versione precedente in corso.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Le impostazioni sono state importate. Puoi riprendere da dove avevi interrotto.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Non è stato possibile importare alcune impostazioni della versione precedente. Verifica le tue attività di sincronizzazione.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Non ci sono notifiche.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Nuove notifiche: %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Tutti i file sono aggiornati.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>La prima sincronizzazione è completata. File ora presenti su questo computer: %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Non è stato possibile sincronizzare questi file. Corvimo Client riproverà quando la causa sarà stata rimossa.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Problemi: %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Ora</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Riprova tutto</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Il file è stato modificato durante il caricamento. Verrà caricato di nuovo.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Il file è stato danneggiato durante il trasferimento. Verrà trasferito di nuovo.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Il file non può essere letto. Verificane i permessi.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Il file non può essere scritto. Verificane i permessi.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Al momento Corvimo Server non accetta modifiche.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Il disco di Corvimo Server è pieno.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Il volume con questa cartella non è disponibile su Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Il server ha inviato una risposta che Corvimo Client non comprende.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>La sessione è terminata. Accedi di nuovo.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Sono state inviate troppe richieste al server. La sincronizzazione riprenderà a breve.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Il disco è stato rimosso durante la scrittura dei file.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Spazio su disco insufficiente</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Memoria insufficiente. Chiudi altri programmi e riprova.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Le modifiche in alcune cartelle potrebbero essere rilevate in ritardo perché il sistema sorveglia troppe cartelle.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>L&apos;orologio di questo computer differisce di oltre %1 minuti da quello del server. Regolalo.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Questa azione non è supportata da Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>L&apos;azione è stata annullata.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Manca un componente di Corvimo Client. Installa di nuovo il client.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Le icone di stato non possono essere mostrate perché altri programmi occupano tutti i posti disponibili.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Se il problema persiste, riavvia Corvimo Client.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Se il problema persiste, rivolgiti all&apos;amministratore di Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Dominio</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Inserisci il tuo nome come dominio\utente se il tuo account appartiene a un dominio.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>Indirizzo e-mail</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Cambia password</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>La password è stata cambiata.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>L&apos;amministratore ti chiede di cambiare la password.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Giorni alla scadenza della password: %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Il nome utente o la password non sono corretti.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Il nome utente o la password non sono corretti. Tentativi rimanenti: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Nome di questo computer</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Dispositivi connessi</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Considera attendibile questo dispositivo</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Non chiedere più su questo computer per %1 giorni</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Inserisci uno dei codici di recupero che hai annotato. Ogni codice funziona una sola volta.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Codici di recupero rimanenti: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Questo codice è già stato usato. Attendi il prossimo.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Troppi codici errati. Attendi %1 min e riprova.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>L&apos;accesso in due passaggi è attivo.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Attività di backup</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Un&apos;attività di backup copia le cartelle di questo computer su Corvimo Server e conserva le versioni precedenti.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Scrivania</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documenti</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Immagini</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musica</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Backup in corso...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Backup in corso, %1 di %2 file</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Nessun backup eseguito</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Il backup è completato. File che non è stato possibile leggere: %1.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Il backup non è riuscito: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Il backup previsto per %1 non è stato eseguito. Viene avviato ora.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Il backup di questo computer non viene eseguito da %1 giorni.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Conserva tutte le versioni</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Conserva le ultime %1 versioni</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Conserva le versioni per %1 giorni</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Ripristina file</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Scegli i file da ripristinare e dove collocarli.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Ripristina nella posizione originale</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Sostituisci i file esistenti</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Ripristino di %1 di %2 file</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Tutti i file sono stati ripristinati.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>File ripristinati: %1, file che non è stato possibile ripristinare: %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Verifica</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Il backup è integro.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>File danneggiati nel backup: %1. Il loro backup verrà eseguito di nuovo.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Grazie per aver scelto Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Copia informazioni sulla versione</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Le informazioni sulla versione sono state copiate negli appunti.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Avvisami prima che vengano eliminati molti file</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Reimposta impostazioni</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Vuoi reimpostare tutte le impostazioni? Le tue attività di sincronizzazione rimangono invariate.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Questa impostazione è gestita dall&apos;amministratore.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Tutti i file sono elencati su questo computer, ma un file viene scaricato solo quando lo apri.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Attiva file su richiesta</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Vuoi attivare i file su richiesta per “%1”? I file già presenti su questo computer rimangono qui.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Vuoi disattivare i file su richiesta? Verranno scaricati tutti i file di questa cartella (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Lo spazio non è sufficiente per scaricare tutti i file. Servono altri %1.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>In parte su questo computer</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>File che saranno disponibili solo online: %1. Vuoi continuare?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>Sono stati liberati %1 di spazio su disco.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Libera spazio automaticamente</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Conserva solo online i file non aperti da %1 giorni</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Scegli le cartelle del team che vuoi avere su questo computer.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Non fai parte di alcuna cartella del team.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Sincronizza tutti i file</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Scegli cartelle</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client ha bisogno del tuo permesso per mostrare notifiche e leggere le tue cartelle.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Apri impostazioni della privacy</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Controlla le tue scelte prima di iniziare.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>File che verranno scaricati: %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>È tutto pronto</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client sta sincronizzando i tuoi file. Lo trovi nella barra dei menu.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Le icone sui file indicano se sono sincronizzati.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Vuoi uscire dalla configurazione? Puoi continuare più tardi.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Sono state trovate le impostazioni di un&apos;installazione precedente. Vuoi usarle?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 byte</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 cartelle</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 elementi</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 di %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>File: %1, cartelle: %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Il mese scorso</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 h</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 giorni</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 s rimanenti</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 min rimanenti</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 h rimanenti</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Non mostrare più questo messaggio</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Attendi...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>同期中...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>同期中、残り %1 ファイル</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>概要</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>同期タスク</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>バックアップタスク</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>フォルダが見つかりません</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>読み取り専用</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 を %2 に移動しました。</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%2 が %1 個のファイルを変更しました。</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>新しいフォルダの名前</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>フォルダ「%1」を作成できませんでした。別の名前を指定するか、アクセス権を確認してください。</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>両方のフォルダを比較中...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%2 個中 %1 個のファイルを比較しました</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>選択同期</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>このコンピュータに同期する項目を選択してください。選択を解除したフォルダはこのコンピュータから削除されますが、Corvimo Server には残ります。</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>新しいフォルダを自動的に同期</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>フォルダを読み込み中...</translation>
+        <source>Loading...</source>
+        <translation>読み込み中...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>再試行</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 個のフォルダがこのコンピュータから削除されます。Corvimo Server には残ります。</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>拡張子を入力してください (例:「iso」)。</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>拡張子「%1」はすでにリストにあります。</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>名前「%1」はすでにリストにあります。</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>「%1」はすでにリストにあります。</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>%1 から %2 までのサイズを入力してください。</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>フィルタにより同期対象外</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>選択内容を保存しました。Corvimo Client が適用しています。</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>書類</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>ピクチャ</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>ビデオ</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>ミュージック</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>バージョンを読み込み中...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>自動削除から保護</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server は 1 つのファイルにつき最大 %1 個のバージョンを保存します。</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>このフォルダのバージョン履歴はオフになっています。オンにするには Corvimo Server の管理者に依頼してください。</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>削除日: %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>選択した %1 個の項目を復元しますか？</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>%1 個の項目を復元しました。</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>アクセス不可</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>%1 のアクセス権を変更しました。</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>自分が共有している項目</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>%1 人と共有中</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>リンクのパスワードを入力してください。</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>有効期限</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>ダウンロード可能回数</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>ダウンロード残り %1 回</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>競合コピーを削除</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>%1 個の競合コピーを削除しますか？元に戻すことはできません。</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>サーバーを検索中...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>このネットワークではサーバーが見つかりませんでした。アドレスを直接入力してください。</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>%1 台のサーバーが見つかりました</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>このサーバーに Corvimo Server がインストールされていないか、動作していません。</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>サーバーはメンテナンス中です。復旧すると同期が再開されます。</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>失敗した試行が多すぎたため、このコンピュータはブロックされました。ブロックを解除するよう管理者に依頼してください。</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>ファイアウォールが Corvimo Client をブロックしている可能性があります。ポート %1 の使用を許可してください。</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>%1 への接続を削除しますか？この接続の同期タスクは削除されますが、ファイルは残ります。</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 個のファイルがまだアップロードされていません。</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>%1 の証明書が以前のものと異なります。証明書が更新されたかどうか管理者に確認してください。</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>証明書は、安全とみなされなくなったアルゴリズムを使用しています。</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>有効期間の開始</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>有効期限</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>ゴミ箱を空にしますか？中のファイルは元に戻せません。</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>ゴミ箱を空にしました。%1 の空きができました。</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>お待ちください...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>ストレージの空きが残りわずかです。残りは %1 です。</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>ディスクの空き領域が残りわずかです</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>ディスク「%2」の残りは %1 です。ディスクがいっぱいになると同期は停止します。</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>ディスクがいっぱいです</translation>
+        <source>Not enough disk space</source>
+        <translation>ディスクの空き領域が足りません</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>フォルダ「%1」のあるディスクが接続されていません。同期を続けるには接続してください。</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>ディスク「%1」は読み取り専用です。Corvimo Server での変更を保存できません。</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>一時ファイルを削除</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>%1 の一時ファイルを削除しました。</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 は初期化中です。</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>以前のバージョンから設定を引き継いでいます。</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>設定を引き継ぎました。前回の続きから使用できます。</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>以前のバージョンの一部の設定を引き継げませんでした。同期タスクを確認してください。</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>通知はありません。</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>新しい通知 %1 件</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>すべてのファイルは最新です。</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>最初の同期が完了しました。%1 個のファイルがこのコンピュータに保存されました。</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>これらのファイルを同期できませんでした。原因が解消されると、Corvimo Client が再試行します。</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>問題 %1 件</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>時刻</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>すべて再試行</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>アップロード中にファイルが変更されました。もう一度アップロードされます。</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>ファイルは転送中に破損しました。もう一度転送されます。</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>ファイルを読み取れません。アクセス権を確認してください。</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>ファイルに書き込めません。アクセス権を確認してください。</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server は現在、変更を受け付けていません。</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Corvimo Server のディスクがいっぱいです。</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>このフォルダのあるボリュームが Corvimo Server で利用できません。</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>サーバーから Corvimo Client が解釈できない応答が返されました。</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>セッションが終了しました。もう一度サインインしてください。</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>サーバーへのリクエストが多すぎます。同期はまもなく再開されます。</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>ファイルの書き込み中にディスクが取り外されました。</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>ディスクの空き領域が足りません</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>メモリが足りません。ほかのプログラムを終了して、もう一度お試しください。</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>システムが監視しているフォルダが多すぎるため、一部のフォルダの変更の検出が遅れることがあります。</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>このコンピュータの時計とサーバーの時計が %1 分以上ずれています。時刻を正しく設定してください。</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>この操作は Corvimo Server では対応していません。</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>操作はキャンセルされました。</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Corvimo Client のコンポーネントが見つかりません。クライアントを再インストールしてください。</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>ほかのプログラムがすべての表示枠を使用しているため、状態アイコンを表示できません。</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>問題が解決しない場合は、Corvimo Client を再起動してください。</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>問題が解決しない場合は、Corvimo Server の管理者に問い合わせてください。</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>ドメイン</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>アカウントがドメインに属している場合は、ドメイン\ユーザー名 の形式で入力してください。</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>メールアドレス</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>パスワードを変更</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>パスワードを変更しました。</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>管理者がパスワードの変更を求めています。</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>パスワードはあと %1 日で有効期限が切れます。</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>ユーザー名またはパスワードが正しくありません。</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>ユーザー名またはパスワードが正しくありません。あと %1 回試行できます。</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>このコンピュータの名前</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>接続済みデバイス</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>このデバイスを信頼する</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>このコンピュータでは %1 日間確認しない</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>控えておいたリカバリーコードの 1 つを入力してください。各コードは 1 回だけ使用できます。</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>リカバリーコードは残り %1 個です。</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>このコードはすでに使用されています。次のコードが表示されるまでお待ちください。</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>誤ったコードの入力が多すぎます。%1 分待ってから、もう一度お試しください。</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>2 段階認証はオンです。</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>バックアップタスク</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>バックアップタスクは、このコンピュータのフォルダを Corvimo Server にコピーし、以前のバージョンを保存します。</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>デスクトップ</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>書類</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>ピクチャ</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>ミュージック</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>ビデオ</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>バックアップ中...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>バックアップ中、%1/%2 ファイル</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>まだバックアップされていません</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>バックアップは完了しましたが、%1 個のファイルを読み取れませんでした。</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>バックアップに失敗しました: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>%1 に予定されていたバックアップが実行されませんでした。今から開始します。</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>このコンピュータは %1 日間バックアップされていません。</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>すべてのバージョンを保存</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>最新の %1 個のバージョンを保存</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>バージョンを %1 日間保存</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>ファイルを復元</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>復元するファイルと保存先を選択してください。</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>元の場所に復元</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>既存のファイルを置き換える</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>復元中、%1/%2 ファイル</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>すべてのファイルを復元しました。</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>%1 個のファイルを復元しました。%2 個のファイルは復元できませんでした。</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>確認</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>バックアップは正常です。</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>バックアップ内の %1 個のファイルが破損しています。もう一度バックアップされます。</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Corvimo Client をご利用いただき、ありがとうございます。</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>バージョン情報をコピー</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>バージョン情報をクリップボードにコピーしました。</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>多数のファイルが削除される前に警告</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>設定をリセット</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>すべての設定をリセットしますか？同期タスクはそのまま残ります。</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>この設定は管理者によって管理されています。</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>すべてのファイルがこのコンピュータに一覧表示されますが、ファイルは開いたときにだけダウンロードされます。</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>オンデマンドファイルをオンにする</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>「%1」のオンデマンドファイルをオンにしますか？すでにこのコンピュータにあるファイルはそのまま残ります。</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>オンデマンドファイルをオフにしますか？このフォルダのすべてのファイルがダウンロードされます (%1)。</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>すべてのファイルをダウンロードするための領域が足りません。あと %1 必要です。</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>一部がこのコンピュータにあり</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 個のファイルがオンラインのみになります。続けますか？</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 のディスク領域が解放されました。</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>空き領域を自動的に増やす</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>%1 日間開かれていないファイルをオンラインのみにする</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>このコンピュータで使用するチームフォルダを選択してください。</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>参加しているチームフォルダはありません。</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>すべてのファイルを同期</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>フォルダを選択</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client が通知を表示し、フォルダを読み取るには、許可が必要です。</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>プライバシー設定を開く</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>開始する前に選択内容を確認してください。</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>%1 個のファイル (%2) がダウンロードされます。</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>準備が整いました</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client がファイルの同期を開始しました。メニューバーから利用できます。</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>ファイルに付いたアイコンで、同期されているかどうかがわかります。</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>設定を中断しますか？あとで続けることができます。</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>以前のインストールの設定が見つかりました。使用しますか？</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 バイト</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 個のフォルダ</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 個の項目</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1/%2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>ファイル %1 個、フォルダ %2 個</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>先月</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 秒</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 分</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 時間</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 日</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>残り %1 秒</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>残り %1 分</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>残り %1 時間</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>このメッセージを今後表示しない</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>お待ちください...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>동기화 중...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>동기화 중, 파일 %1개 남음</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>개요</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>동기화 작업</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>백업 작업</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>폴더를 찾을 수 없음</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>읽기 전용</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1을(를) %2(으)로 이동했습니다.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%2이(가) 파일 %1개를 변경했습니다.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>새 폴더의 이름</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>“%1” 폴더를 만들 수 없습니다. 다른 이름을 선택하거나 권한을 확인하세요.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>두 폴더 비교 중...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>파일 %2개 중 %1개 비교됨</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>선택적 동기화</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>이 컴퓨터에 동기화할 항목을 선택하세요. 선택을 해제한 폴더는 이 컴퓨터에서 제거되지만 Corvimo Server에는 그대로 남아 있습니다.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>새 폴더 자동으로 동기화</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>폴더를 불러오는 중...</translation>
+        <source>Loading...</source>
+        <translation>불러오는 중...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>다시 시도</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>폴더 %1개가 이 컴퓨터에서 제거됩니다. Corvimo Server에는 그대로 남아 있습니다.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>확장자를 입력하세요(예: “iso”).</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>확장자 “%1”이(가) 이미 목록에 있습니다.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>이름 “%1”이(가) 이미 목록에 있습니다.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>“%1”이(가) 이미 목록에 있습니다.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>%1에서 %2 사이의 크기를 입력하세요.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>필터로 인해 동기화되지 않음</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>선택 사항을 저장했습니다. Corvimo Client가 적용하는 중입니다.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>문서</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>사진</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>비디오</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>음악</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>닫기</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>버전을 불러오는 중...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>자동 삭제로부터 보호됨</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server는 파일당 최대 %1개의 버전을 유지합니다.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>이 폴더의 버전 기록이 꺼져 있습니다. 켜려면 Corvimo Server 관리자에게 문의하세요.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>%1에 삭제됨</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>선택한 항목 %1개를 복원하시겠습니까?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>항목 %1개를 복원했습니다.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>접근 권한 없음</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>%1의 권한을 변경했습니다.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>내가 공유한 항목</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>%1명과 공유됨</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>링크의 암호를 입력하세요.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>만료일</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>허용되는 다운로드 횟수</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>다운로드 %1회 남음</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>충돌 사본 삭제</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>충돌 사본 %1개를 삭제하시겠습니까? 삭제하면 되돌릴 수 없습니다.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>서버를 찾는 중...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>이 네트워크에서 서버를 찾을 수 없습니다. 주소를 직접 입력하세요.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>서버 %1대를 찾음</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>이 서버에 Corvimo Server가 설치되어 있지 않거나 실행 중이 아닙니다.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>서버를 점검하는 중입니다. 점검이 끝나면 동기화가 계속됩니다.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>실패한 시도가 너무 많아 이 컴퓨터가 차단되었습니다. 관리자에게 차단 해제를 요청하세요.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>방화벽이 Corvimo Client를 차단하고 있을 수 있습니다. 포트 %1 사용을 허용하세요.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>%1에 대한 연결을 제거하시겠습니까? 동기화 작업은 삭제되지만 파일은 그대로 남아 있습니다.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>파일 %1개가 아직 업로드되지 않았습니다.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>%1의 인증서가 이전에 사용하던 인증서와 다릅니다. 인증서가 갱신되었는지 관리자에게 문의하세요.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>인증서가 더 이상 안전하지 않은 알고리즘을 사용합니다.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>유효 기간 시작</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>만료일</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>휴지통을 비우시겠습니까? 휴지통의 파일은 되돌릴 수 없습니다.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>휴지통을 비웠습니다. %1의 공간이 확보되었습니다.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>잠시 기다려 주세요...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>저장 공간이 거의 찼습니다. %1만 남아 있습니다.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>디스크 공간이 얼마 남지 않았습니다</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>디스크 “%2”에 %1만 남아 있습니다. 디스크가 가득 차면 동기화가 중지됩니다.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>디스크가 가득 찼습니다</translation>
+        <source>Not enough disk space</source>
+        <translation>디스크 공간 부족</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>“%1” 폴더가 있는 디스크가 연결되어 있지 않습니다. 동기화를 계속하려면 디스크를 연결하세요.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>디스크 “%1”이(가) 읽기 전용입니다. Corvimo Server의 변경 사항을 저장할 수 없습니다.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>임시 파일 삭제</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>임시 파일 %1을(를) 삭제했습니다.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 초기화 중...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>이전 버전에서 설정을 가져오는 중입니다.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>설정을 가져왔습니다. 중단한 부분부터 계속할 수 있습니다.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>이전 버전의 일부 설정을 가져올 수 없습니다. 동기화 작업을 확인하세요.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>알림이 없습니다.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>새로운 알림 %1개</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>모든 파일이 최신 상태입니다.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>첫 동기화가 완료되었습니다. 이제 이 컴퓨터에 파일 %1개가 있습니다.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>이 파일을 동기화할 수 없습니다. 원인이 해결되면 Corvimo Client가 다시 시도합니다.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>문제 %1개</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>시간</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>모두 다시 시도</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>업로드하는 동안 파일이 변경되었습니다. 다시 업로드됩니다.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>전송 중에 파일이 손상되었습니다. 다시 전송됩니다.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>파일을 읽을 수 없습니다. 권한을 확인하세요.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>파일에 쓸 수 없습니다. 권한을 확인하세요.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>현재 Corvimo Server에서 변경 사항을 받지 않습니다.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Corvimo Server의 디스크가 가득 찼습니다.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>이 폴더가 있는 볼륨을 Corvimo Server에서 사용할 수 없습니다.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>서버가 Corvimo Client에서 인식할 수 없는 응답을 보냈습니다.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>세션이 종료되었습니다. 다시 로그인하세요.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>서버에 보낸 요청이 너무 많습니다. 동기화가 곧 계속됩니다.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>파일을 쓰는 동안 디스크가 제거되었습니다.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>디스크 공간 부족</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>메모리가 부족합니다. 다른 프로그램을 닫고 다시 시도하세요.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>시스템에서 감시하는 폴더가 너무 많아 일부 폴더의 변경 사항을 늦게 감지할 수 있습니다.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>이 컴퓨터의 시계가 서버의 시계와 %1분 넘게 차이 납니다. 시간을 올바르게 설정하세요.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Corvimo Server에서 지원하지 않는 동작입니다.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>동작이 취소되었습니다.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Corvimo Client의 구성 요소가 없습니다. 클라이언트를 다시 설치하세요.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>다른 프로그램이 상태 아이콘 자리를 모두 사용하고 있어 상태 아이콘을 표시할 수 없습니다.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>문제가 계속되면 Corvimo Client를 재시작하세요.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>문제가 계속되면 Corvimo Server 관리자에게 문의하세요.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>도메인</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>계정이 도메인에 속해 있으면 이름을 도메인\사용자 형식으로 입력하세요.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>이메일 주소</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>암호 변경</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>암호를 변경했습니다.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>관리자가 암호 변경을 요청했습니다.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>암호가 %1일 후 만료됩니다.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>사용자 이름 또는 암호가 잘못되었습니다.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>사용자 이름 또는 암호가 잘못되었습니다. %1번 더 시도할 수 있습니다.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>이 컴퓨터의 이름</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>연결된 기기</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>이 기기 신뢰</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>%1일 동안 이 컴퓨터에서 다시 묻지 않기</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>적어 둔 복구 코드 중 하나를 입력하세요. 각 코드는 한 번만 사용할 수 있습니다.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>복구 코드가 %1개 남아 있습니다.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>이미 사용한 코드입니다. 다음 코드를 기다리세요.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>잘못된 코드를 너무 많이 입력했습니다. %1분 기다린 후 다시 시도하세요.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>2단계 인증이 켜져 있습니다.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>백업 작업</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>백업 작업은 이 컴퓨터의 폴더를 Corvimo Server에 복사하고 이전 버전을 유지합니다.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>데스크탑</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>문서</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>사진</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>음악</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>비디오</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>백업 중...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>백업 중, 파일 %1/%2</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>아직 백업되지 않음</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>백업이 완료되었지만 파일 %1개를 읽을 수 없습니다.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>백업 실패: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>%1에 예정된 백업을 놓쳤습니다. 지금 시작합니다.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>이 컴퓨터가 %1일 동안 백업되지 않았습니다.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>모든 버전 유지</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>마지막 %1개 버전 유지</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>버전을 %1일 동안 유지</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>파일 복원</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>복원할 파일과 저장할 위치를 선택하세요.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>원래 위치로 복원</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>기존 파일 대치</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>복원 중, 파일 %1/%2</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>모든 파일을 복원했습니다.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>파일 %1개를 복원했고 파일 %2개는 복원할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>검증</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>백업이 온전합니다.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>백업의 파일 %1개가 손상되었습니다. 다시 백업됩니다.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Corvimo Client를 사용해 주셔서 감사합니다.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>버전 정보 복사</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>버전 정보를 클립보드에 복사했습니다.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>많은 파일이 삭제되기 전에 경고</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>설정 재설정</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>모든 설정을 재설정하시겠습니까? 동기화 작업은 그대로 유지됩니다.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>이 설정은 관리자가 관리합니다.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>모든 파일이 이 컴퓨터에 표시되지만 파일을 열 때만 다운로드됩니다.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>주문형 파일 켜기</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>“%1”에 대해 주문형 파일을 켜시겠습니까? 이미 이 컴퓨터에 있는 파일은 그대로 남아 있습니다.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>주문형 파일을 끄시겠습니까? 이 폴더의 모든 파일이 다운로드됩니다(%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>모든 파일을 다운로드할 공간이 부족합니다. %1이(가) 더 필요합니다.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>일부가 이 컴퓨터에 있음</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>파일 %1개를 온라인에서만 사용할 수 있게 됩니다. 계속하시겠습니까?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>디스크 공간 %1을(를) 확보했습니다.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>자동으로 공간 확보</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>%1일 동안 열지 않은 파일을 온라인 전용으로 전환</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>이 컴퓨터에서 사용할 팀 폴더를 선택하세요.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>구성원으로 속한 팀 폴더가 없습니다.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>모든 파일 동기화</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>폴더 선택</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client가 알림을 표시하고 폴더를 읽으려면 권한이 필요합니다.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>개인정보 보호 설정 열기</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>시작하기 전에 선택 사항을 확인하세요.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>파일 %1개(%2)가 다운로드됩니다.</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>모든 준비가 완료되었습니다</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client가 파일을 동기화하고 있습니다. 메뉴 막대에서 찾을 수 있습니다.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>파일의 아이콘은 동기화되었는지 여부를 보여 줍니다.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>설정을 종료하시겠습니까? 나중에 계속할 수 있습니다.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>이전에 설치한 버전의 설정을 찾았습니다. 사용하시겠습니까?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1바이트</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>폴더 %1개</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>항목 %1개</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1/%2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>파일 %1개, 폴더 %2개</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>지난달</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1초</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1분</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1시간</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1일</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1초 남음</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1분 남음</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1시간 남음</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>이 메시지 다시 보지 않기</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>잠시 기다려 주세요...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>Bezig met synchroniseren...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Bezig met synchroniseren, resterende bestanden: %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Overzicht</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Synchronisatietaken</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Back-uptaken</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Map niet gevonden</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Alleen-lezen</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 is verplaatst naar %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>Bestanden gewijzigd door %2: %1.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Naam van de nieuwe map</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>De map “%1” kon niet worden aangemaakt. Kies een andere naam of controleer uw rechten.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Beide mappen vergelijken...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 van %2 bestanden vergeleken</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Selectieve synchronisatie</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Kies wat u op deze computer wilt synchroniseren. Mappen die u uitschakelt, worden van deze computer verwijderd, maar blijven op Corvimo Server staan.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Nieuwe mappen automatisch synchroniseren</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Mappen laden...</translation>
+        <source>Loading...</source>
+        <translation>Laden...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Opnieuw proberen</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>Mappen die van deze computer worden verwijderd: %1. Ze blijven op Corvimo Server staan.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Voer een extensie in, bijvoorbeeld “iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>De extensie “%1” staat al in de lijst.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>De naam “%1” staat al in de lijst.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>“%1” staat al in de lijst.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Voer een grootte tussen %1 en %2 in.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Uitgesloten door filter</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Uw keuze is opgeslagen. Corvimo Client past deze nu toe.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Documenten</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Afbeeldingen</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Video&apos;s</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Muziek</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Versies laden...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Beveiligd tegen automatisch verwijderen</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server bewaart maximaal %1 versies van een bestand.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>De versiegeschiedenis is voor deze map uitgeschakeld. Vraag de beheerder van Corvimo Server om deze in te schakelen.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Verwijderd op %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Wilt u de %1 geselecteerde onderdelen herstellen?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Herstelde onderdelen: %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Geen toegang</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>De rechten van %1 zijn gewijzigd.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Gedeeld door mij</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Aantal personen met toegang: %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Voer een wachtwoord voor de link in.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Geldig tot</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Aantal toegestane downloads</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Resterende downloads: %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Conflictkopieën verwijderen</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Wilt u de conflictkopieën verwijderen (aantal: %1)? Ze kunnen niet worden teruggehaald.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Servers zoeken...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Er is geen server op dit netwerk gevonden. Voer het adres zelf in.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Gevonden servers: %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server is niet geïnstalleerd of niet actief op deze server.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Er wordt onderhoud aan de server uitgevoerd. De synchronisatie gaat verder zodra de server weer beschikbaar is.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Deze computer is na te veel mislukte pogingen geblokkeerd. Vraag de beheerder om de blokkering op te heffen.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Mogelijk blokkeert een firewall Corvimo Client. Sta het gebruik van poort %1 toe.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Wilt u de verbinding met %1 verwijderen? De bijbehorende synchronisatietaken worden verwijderd, maar uw bestanden blijven behouden.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>Bestanden die nog niet zijn geüpload: %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Het certificaat van %1 is niet het certificaat dat eerder werd gebruikt. Vraag de beheerder of het is vernieuwd.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Het certificaat gebruikt een algoritme dat niet meer als veilig wordt beschouwd.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Geldig vanaf</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Geldig tot</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Wilt u de prullenmand legen? De bestanden in de prullenmand kunnen niet worden teruggehaald.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>De prullenmand is geleegd. Er is %1 vrijgekomen.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Een ogenblik geduld...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Uw opslag is bijna vol. Er is nog maar %1 over.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Weinig schijfruimte</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Er is nog maar %1 over op de schijf “%2”. De synchronisatie stopt wanneer de schijf vol is.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>De schijf is vol</translation>
+        <source>Not enough disk space</source>
+        <translation>Niet genoeg schijfruimte</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>De schijf met de map “%1” is niet aangesloten. Sluit de schijf aan om verder te gaan met synchroniseren.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>De schijf “%1” is alleen-lezen. Wijzigingen van Corvimo Server kunnen er niet op worden opgeslagen.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Tijdelijke bestanden verwijderen</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>De tijdelijke bestanden zijn verwijderd (%1).</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 is bezig met initialisatie...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Uw instellingen worden overgenomen uit de eerdere versie.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Uw instellingen zijn overgenomen. U kunt verdergaan waar u gebleven was.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Sommige instellingen van de eerdere versie konden niet worden overgenomen. Controleer uw synchronisatietaken.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>U hebt geen meldingen.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Nieuwe meldingen: %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Alle bestanden zijn bijgewerkt.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>De eerste synchronisatie is voltooid. Bestanden die nu op deze computer staan: %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Deze bestanden konden niet worden gesynchroniseerd. Corvimo Client probeert het opnieuw zodra de oorzaak is verholpen.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Problemen: %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Tijd</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Alles opnieuw proberen</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Het bestand is tijdens het uploaden gewijzigd. Het wordt opnieuw geüpload.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Het bestand is onderweg beschadigd geraakt. Het wordt opnieuw overgedragen.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Het bestand kan niet worden gelezen. Controleer de rechten.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Het bestand kan niet worden geschreven. Controleer de rechten.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server accepteert momenteel geen wijzigingen.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>De schijf van Corvimo Server is vol.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Het volume met deze map is niet beschikbaar op Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>De server heeft een antwoord verstuurd dat Corvimo Client niet begrijpt.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Uw sessie is beëindigd. Log opnieuw in.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Er zijn te veel verzoeken naar de server verstuurd. De synchronisatie gaat binnenkort verder.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>De schijf is verwijderd terwijl er bestanden werden geschreven.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Niet genoeg schijfruimte</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Niet genoeg geheugen. Sluit andere programma&apos;s en probeer het opnieuw.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Wijzigingen in sommige mappen worden mogelijk laat opgemerkt, omdat het systeem te veel mappen bewaakt.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>De klok van deze computer wijkt meer dan %1 minuten af van de klok van de server. Zet de klok gelijk.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Deze actie wordt niet ondersteund door Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>De actie is geannuleerd.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Een onderdeel van Corvimo Client ontbreekt. Installeer de client opnieuw.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>De statussymbolen kunnen niet worden weergegeven omdat andere programma&apos;s alle plaatsen ervoor gebruiken.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Als het probleem blijft bestaan, start u Corvimo Client opnieuw.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Als het probleem blijft bestaan, neemt u contact op met de beheerder van Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domein</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Voer uw naam in als domein\gebruiker als uw account bij een domein hoort.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-mailadres</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Wachtwoord wijzigen</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Uw wachtwoord is gewijzigd.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>De beheerder vraagt u uw wachtwoord te wijzigen.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Aantal dagen totdat uw wachtwoord verloopt: %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>De gebruikersnaam of het wachtwoord is onjuist.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>De gebruikersnaam of het wachtwoord is onjuist. Resterende pogingen: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Naam van deze computer</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Verbonden apparaten</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Dit apparaat vertrouwen</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>%1 dagen niet meer vragen op deze computer</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Voer een van de herstelcodes in die u hebt opgeschreven. Elke code werkt één keer.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Resterende herstelcodes: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Deze code is al gebruikt. Wacht op de volgende.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Te veel onjuiste codes. Wacht %1 min. en probeer het opnieuw.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Inloggen in twee stappen is ingeschakeld.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Back-uptaken</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Een back-uptaak kopieert mappen van deze computer naar Corvimo Server en bewaart eerdere versies.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Bureaublad</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documenten</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Afbeeldingen</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Muziek</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Video&apos;s</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Back-up maken...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Back-up maken, %1 van %2 bestanden</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Nog geen back-up gemaakt</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>De back-up is voltooid. Bestanden die niet konden worden gelezen: %1.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>De back-up is mislukt: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>De back-up die gepland was voor %1 is gemist. De back-up begint nu.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Van deze computer is al %1 dagen geen back-up gemaakt.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Alle versies bewaren</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>De laatste %1 versies bewaren</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Versies %1 dagen bewaren</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Bestanden herstellen</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Kies de bestanden die u wilt herstellen en een plaats ervoor.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Herstellen naar de oorspronkelijke plaats</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Bestaande bestanden vervangen</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>%1 van %2 bestanden herstellen</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Alle bestanden zijn hersteld.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>Herstelde bestanden: %1, bestanden die niet konden worden hersteld: %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Verifiëren</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>De back-up is intact.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Beschadigde bestanden in de back-up: %1. Er wordt opnieuw een back-up van gemaakt.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Bedankt voor het gebruik van Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Versiegegevens kopiëren</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>De versiegegevens zijn naar het klembord gekopieerd.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Waarschuwen voordat veel bestanden worden verwijderd</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Instellingen terugzetten</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Wilt u alle instellingen terugzetten op de standaardwaarden? Uw synchronisatietaken blijven ongewijzigd.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Deze instelling wordt door uw beheerder beheerd.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Alle bestanden worden op deze computer weergegeven, maar een bestand wordt pas gedownload wanneer u het opent.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Bestanden op aanvraag inschakelen</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Wilt u bestanden op aanvraag inschakelen voor “%1”? Bestanden die al op deze computer staan, blijven hier.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Wilt u bestanden op aanvraag uitschakelen? Alle bestanden in deze map worden gedownload (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Er is niet genoeg ruimte om alle bestanden te downloaden. Er is nog %1 nodig.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Gedeeltelijk op deze computer</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>Bestanden die alleen online beschikbaar worden: %1. Wilt u doorgaan?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>Er is %1 schijfruimte vrijgemaakt.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Automatisch ruimte vrijmaken</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Bestanden die %1 dagen niet zijn geopend alleen online bewaren</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Kies de teammappen die u op deze computer wilt hebben.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>U bent geen lid van een teammap.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Alle bestanden synchroniseren</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Mappen kiezen</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client heeft uw toestemming nodig om meldingen weer te geven en uw mappen te lezen.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Privacyinstellingen openen</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Controleer uw keuzes voordat u begint.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>Bestanden die worden gedownload: %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Alles is ingesteld</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client synchroniseert nu uw bestanden. U vindt het programma in de menubalk.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>De symbolen op uw bestanden geven aan of ze zijn gesynchroniseerd.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Wilt u de configuratie verlaten? U kunt later verdergaan.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Er zijn instellingen van een eerdere installatie gevonden. Wilt u deze gebruiken?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 bytes</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 mappen</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 onderdelen</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 van %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>Bestanden: %1, mappen: %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Vorige maand</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 sec.</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 min.</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 uur</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 dagen</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>Nog %1 sec.</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>Nog %1 min.</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>Nog %1 uur</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Dit bericht niet meer weergeven</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Een ogenblik geduld...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>Synkroniserer...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Synkroniserer, %1 filer gjenstår</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Oversikt</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Synkroniseringsoppgaver</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Sikkerhetskopieringsoppgaver</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Finner ikke mappen</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Skrivebeskyttet</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 ble flyttet til %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%1 filer ble endret av %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Navn på den nye mappen</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Mappen «%1» kunne ikke opprettes. Velg et annet navn, eller kontroller tillatelsen din.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Sammenligner begge mappene...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 av %2 filer sammenlignet</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Selektiv synkronisering</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Velg hva som skal synkroniseres til denne datamaskinen. Mapper du fjerner merkingen for, fjernes fra denne datamaskinen, men blir værende på Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Synkroniser nye mapper automatisk</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Laster inn mapper...</translation>
+        <source>Loading...</source>
+        <translation>Laster inn...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Prøv på nytt</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 mapper blir fjernet fra denne datamaskinen. De blir værende på Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Oppgi en filtype, for eksempel «iso».</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Filtypen «%1» er allerede på listen.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Navnet «%1» er allerede på listen.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>«%1» er allerede på listen.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Oppgi en størrelse mellom %1 og %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Ikke synkronisert på grunn av filter</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Valget ditt ble lagret. Corvimo Client tar det nå i bruk.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Dokumenter</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Bilder</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Videoer</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Musikk</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Lukk</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Laster inn versjoner...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Beskyttet mot automatisk sletting</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server beholder opptil %1 versjoner av en fil.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>Versjonshistorikk er slått av for denne mappen. Be administratoren for Corvimo Server om å slå den på.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Slettet %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Vil du gjenopprette de valgte objektene (%1)?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>%1 objekter ble gjenopprettet.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Ingen tilgang</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Tillatelsen for %1 ble endret.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Delt av meg</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Delt med %1 personer</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Oppgi et passord for lenken.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Gyldig til</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Antall tillatte nedlastinger</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>%1 nedlastinger gjenstår</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Slett konfliktkopier</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Vil du slette %1 konfliktkopier? De kan ikke hentes tilbake.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Ser etter servere...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Fant ingen server på dette nettverket. Oppgi adressen selv.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>%1 servere funnet</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server er ikke installert eller kjører ikke på denne serveren.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Serveren er under vedlikehold. Synkroniseringen fortsetter når den er tilbake.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Denne datamaskinen ble blokkert etter for mange mislykkede forsøk. Be administratoren om å oppheve blokkeringen.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>En brannmur blokkerer kanskje Corvimo Client. Tillat at port %1 brukes.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Vil du fjerne tilkoblingen til %1? Synkroniseringsoppgavene slettes, men filene dine blir værende.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 filer er ikke lastet opp ennå.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Sertifikatet for %1 er ikke det samme som ble brukt tidligere. Spør administratoren om det er fornyet.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Sertifikatet bruker en algoritme som ikke lenger regnes som sikker.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Gyldig fra</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Gyldig til</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Vil du tømme papirkurven? Filene i den kan ikke hentes tilbake.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Papirkurven ble tømt. %1 er ledig igjen.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Vent litt...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Lagringsplassen din er nesten full. Bare %1 gjenstår.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Lite diskplass</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Bare %1 gjenstår på disken «%2». Synkroniseringen stopper når disken er full.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Disken er full</translation>
+        <source>Not enough disk space</source>
+        <translation>Ikke nok diskplass</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Disken med mappen «%1» er ikke tilkoblet. Koble den til for å fortsette synkroniseringen.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Disken «%1» er skrivebeskyttet. Endringer fra Corvimo Server kan ikke lagres på den.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Slett midlertidige filer</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>%1 med midlertidige filer ble slettet.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 starter opp...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Innstillingene dine overføres fra den tidligere versjonen.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Innstillingene dine ble overført. Du kan fortsette der du slapp.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Noen innstillinger fra den tidligere versjonen kunne ikke overføres. Kontroller synkroniseringsoppgavene dine.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Du har ingen varslinger.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 nye varslinger</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Alle filer er oppdatert.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>Den første synkroniseringen er fullført. %1 filer er nå på denne datamaskinen.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Disse filene kunne ikke synkroniseres. Corvimo Client prøver på nytt når årsaken er borte.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 problemer</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Tidspunkt</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Prøv alle på nytt</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Filen ble endret mens den ble lastet opp. Den lastes opp på nytt.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Filen ble skadet underveis. Den overføres på nytt.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Filen kan ikke leses. Kontroller tillatelsene for filen.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Filen kan ikke skrives. Kontroller tillatelsene for filen.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server godtar ingen endringer for øyeblikket.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Disken på Corvimo Server er full.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Volumet med denne mappen er ikke tilgjengelig på Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Serveren sendte et svar som Corvimo Client ikke forstår.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Økten din er avsluttet. Logg på igjen.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>For mange forespørsler ble sendt til serveren. Synkroniseringen fortsetter snart.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Disken ble fjernet mens filer ble skrevet.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Ikke nok diskplass</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Ikke nok minne. Lukk andre programmer, og prøv på nytt.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Endringer i noen mapper kan bli oppdaget sent fordi systemet overvåker for mange mapper.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Klokken på denne datamaskinen avviker fra klokken på serveren med mer enn %1 minutter. Still den riktig.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Denne handlingen støttes ikke av Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>Handlingen ble avbrutt.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>En komponent i Corvimo Client mangler. Installer klienten på nytt.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Statussymbolene kan ikke vises fordi andre programmer bruker alle plassene for dem.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Start Corvimo Client på nytt hvis problemet vedvarer.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Spør administratoren for Corvimo Server hvis problemet vedvarer.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domene</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Oppgi navnet ditt som domene\bruker hvis kontoen din tilhører et domene.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-postadresse</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Navn</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Endre passord</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Passordet ditt ble endret.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Administratoren ber deg endre passordet ditt.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Passordet ditt utløper om %1 dager.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Brukernavnet eller passordet er feil.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Brukernavnet eller passordet er feil. Gjenstående forsøk: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Navn på denne datamaskinen</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Tilkoblede enheter</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Stol på denne enheten</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Ikke spør igjen på denne datamaskinen på %1 dager</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Oppgi en av gjenopprettingskodene du skrev ned. Hver kode fungerer én gang.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Du har %1 gjenopprettingskoder igjen.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Denne koden er allerede brukt. Vent på den neste.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>For mange feil koder. Vent %1 minutter, og prøv på nytt.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Totrinnspålogging er på.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Sikkerhetskopieringsoppgaver</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>En sikkerhetskopieringsoppgave kopierer mapper på denne datamaskinen til Corvimo Server og beholder tidligere versjoner.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Skrivebord</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumenter</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musikk</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videoer</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Sikkerhetskopierer...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Sikkerhetskopierer, %1 av %2 filer</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Ikke sikkerhetskopiert ennå</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Sikkerhetskopieringen er fullført, men %1 filer kunne ikke leses.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Sikkerhetskopieringen mislyktes: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Sikkerhetskopieringen som var planlagt til %1, ble ikke utført. Den starter nå.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Denne datamaskinen er ikke sikkerhetskopiert på %1 dager.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Behold alle versjoner</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Behold de siste %1 versjonene</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Behold versjoner i %1 dager</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Gjenopprett filer</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Velg filene som skal gjenopprettes, og hvor de skal plasseres.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Gjenopprett til den opprinnelige plasseringen</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Erstatt eksisterende filer</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Gjenoppretter %1 av %2 filer</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Alle filer ble gjenopprettet.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>%1 filer ble gjenopprettet, %2 filer kunne ikke gjenopprettes.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Bekreft</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Sikkerhetskopien er intakt.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>%1 filer i sikkerhetskopien er skadet. De blir sikkerhetskopiert på nytt.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Takk for at du bruker Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Kopier versjonsinformasjon</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Versjonsinformasjonen ble kopiert til utklippstavlen.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Advar meg før mange filer slettes</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Tilbakestill innstillinger</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Vil du tilbakestille alle innstillinger? Synkroniseringsoppgavene dine forblir som de er.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Denne innstillingen styres av administratoren.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Alle filer vises på denne datamaskinen, men en fil lastes ned først når du åpner den.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Slå på filer ved behov</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Vil du slå på filer ved behov for «%1»? Filer som allerede er på denne datamaskinen, blir værende her.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Vil du slå av filer ved behov? Alle filene i denne mappen blir lastet ned (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Det er ikke nok plass til å laste ned alle filene. Det trengs %1 til.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Delvis på denne datamaskinen</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 filer blir bare tilgjengelige på nettet. Vil du fortsette?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 diskplass ble frigjort.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Frigjør plass automatisk</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Filer som ikke er åpnet på %1 dager, blir bare tilgjengelige på nettet</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Velg teammappene du vil ha på denne datamaskinen.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Du er ikke medlem av en teammappe.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Synkroniser alle filer</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Velg mapper</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client trenger din tillatelse til å vise varslinger og lese mappene dine.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Åpne personverninnstillinger</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Kontroller valgene dine før du starter.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>%1 filer (%2) blir lastet ned.</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Alt er klart</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client synkroniserer nå filene dine. Du finner programmet på menylinjen.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Symbolene på filene dine viser om de er synkronisert.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Vil du forlate konfigureringen? Du kan fortsette senere.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Fant innstillinger fra en tidligere installasjon. Vil du bruke dem?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 byte</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 mapper</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 objekter</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 av %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 filer, %2 mapper</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Forrige måned</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 sekunder</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 minutter</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 timer</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 dager</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 sekunder igjen</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 minutter igjen</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 timer igjen</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Ikke vis denne meldingen igjen</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Vent litt...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>Synchronizowanie...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Synchronizowanie, pozostało plików: %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Przegląd</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Zadania synchronizacji</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Zadania kopii zapasowej</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Nie znaleziono folderu</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Tylko do odczytu</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>Przeniesiono: %1 do %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>Zmienione pliki: %1. Zmiany wprowadził użytkownik %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Nazwa nowego folderu</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Nie udało się utworzyć folderu „%1”. Wybierz inną nazwę lub sprawdź swoje uprawnienia.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Porównywanie folderów...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>Porównane pliki: %1 z %2</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Synchronizacja selektywna</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Wybierz, co synchronizować z tym komputerem. Foldery, których zaznaczenie usuniesz, znikną z tego komputera, ale pozostaną na serwerze Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Automatycznie synchronizuj nowe foldery</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Wczytywanie folderów...</translation>
+        <source>Loading...</source>
+        <translation>Wczytywanie...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Spróbuj ponownie</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>Foldery, które zostaną usunięte z tego komputera: %1. Pozostaną one na serwerze Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Wprowadź rozszerzenie, na przykład „iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Rozszerzenie „%1” jest już na liście.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Nazwa „%1” jest już na liście.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>Pozycja „%1” jest już na liście.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Wprowadź rozmiar od %1 do %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Niesynchronizowane ze względu na filtr</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Twój wybór został zapisany. Aplikacja Corvimo Client właśnie go wprowadza.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Dokumenty</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Obrazy</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Filmy</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Muzyka</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Zamknij</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Wczytywanie wersji...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Chronione przed automatycznym usunięciem</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Maksymalna liczba wersji pliku na serwerze Corvimo Server: %1.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>Historia wersji jest wyłączona dla tego folderu. Poproś administratora serwera Corvimo Server o jej włączenie.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Data usunięcia: %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Czy chcesz przywrócić zaznaczone elementy (%1)?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Przywrócone elementy: %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Brak dostępu</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Uprawnienia użytkownika %1 zostały zmienione.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Udostępnione przeze mnie</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Liczba osób z dostępem: %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Wprowadź hasło do łącza.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Ważne do</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Dozwolona liczba pobrań</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Pozostałe pobrania: %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Usuń kopie powodujące konflikt</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Czy chcesz usunąć kopie powodujące konflikt (%1)? Nie będzie można ich odzyskać.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Wyszukiwanie serwerów...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Nie znaleziono żadnego serwera w tej sieci. Wprowadź jego adres samodzielnie.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Znalezione serwery: %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server nie jest zainstalowany lub nie jest uruchomiony na tym serwerze.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Trwa konserwacja serwera. Synchronizacja będzie kontynuowana, gdy znów będzie dostępny.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Ten komputer został zablokowany po zbyt wielu nieudanych próbach. Poproś administratora o odblokowanie.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Zapora może blokować aplikację Corvimo Client. Zezwól jej na używanie portu %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Czy chcesz usunąć połączenie z %1? Jego zadania synchronizacji zostaną usunięte, ale pliki pozostaną.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>Pliki, które nie zostały jeszcze wysłane: %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Certyfikat %1 różni się od używanego wcześniej. Zapytaj administratora, czy został odnowiony.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Certyfikat używa algorytmu, który nie jest już uznawany za bezpieczny.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Ważny od</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Ważne do</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Czy chcesz opróżnić kosz? Nie będzie można odzyskać plików, które się w nim znajdują.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Kosz został opróżniony. Zwolnione miejsce: %1.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Proszę czekać...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Miejsce na dane jest prawie zapełnione. Pozostało tylko %1.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Mało miejsca na dysku</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Na dysku „%2” pozostało tylko %1. Gdy dysk się zapełni, synchronizacja zostanie zatrzymana.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Dysk jest zapełniony</translation>
+        <source>Not enough disk space</source>
+        <translation>Za mało miejsca na dysku</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Dysk z folderem „%1” nie jest podłączony. Podłącz go, aby kontynuować synchronizację.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Dysk „%1” jest tylko do odczytu. Nie można na nim zapisać zmian z serwera Corvimo Server.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Usuń pliki tymczasowe</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>Rozmiar usuniętych plików tymczasowych: %1.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>Aplikacja %1 jest inicjowana...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Trwa przenoszenie ustawień z wcześniejszej wersji.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Ustawienia zostały przeniesione. Możesz kontynuować pracę od miejsca, w którym ją przerwano.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Nie udało się przenieść niektórych ustawień z wcześniejszej wersji. Sprawdź zadania synchronizacji.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Nie masz żadnych powiadomień.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Nowe powiadomienia: %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Wszystkie pliki są aktualne.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>Pierwsza synchronizacja została ukończona. Liczba plików na tym komputerze: %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Nie udało się zsynchronizować tych plików. Aplikacja Corvimo Client spróbuje ponownie, gdy przyczyna ustąpi.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Problemy: %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Czas</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Ponów wszystkie</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Plik zmienił się podczas wysyłania. Zostanie wysłany ponownie.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Plik został uszkodzony podczas przesyłania. Zostanie przesłany ponownie.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Nie można odczytać pliku. Sprawdź jego uprawnienia.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Nie można zapisać pliku. Sprawdź jego uprawnienia.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server nie przyjmuje obecnie zmian.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Dysk serwera Corvimo Server jest zapełniony.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Wolumin z tym folderem jest niedostępny na serwerze Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Serwer przesłał odpowiedź, której aplikacja Corvimo Client nie rozumie.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Twoja sesja wygasła. Zaloguj się ponownie.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Do serwera wysłano zbyt wiele żądań. Synchronizacja wkrótce będzie kontynuowana.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Dysk został odłączony podczas zapisywania plików.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Za mało miejsca na dysku</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Za mało pamięci. Zamknij inne programy i spróbuj ponownie.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Zmiany w niektórych folderach mogą być wykrywane z opóźnieniem, ponieważ system obserwuje zbyt wiele folderów.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Zegar tego komputera różni się od zegara serwera o więcej niż %1 min. Ustaw go prawidłowo.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Ta czynność nie jest obsługiwana przez Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>Czynność została anulowana.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Brakuje składnika aplikacji Corvimo Client. Zainstaluj klienta ponownie.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Nie można pokazać ikon stanu, ponieważ inne programy zajmują wszystkie miejsca na nie.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Jeśli problem nie zniknie, uruchom ponownie aplikację Corvimo Client.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Jeśli problem nie zniknie, zwróć się do administratora serwera Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domena</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Jeśli konto należy do domeny, wprowadź nazwę w postaci domena\użytkownik.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>Adres e-mail</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Zmień hasło</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Hasło zostało zmienione.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Administrator prosi o zmianę hasła.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Liczba dni do wygaśnięcia hasła: %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Nazwa użytkownika lub hasło są nieprawidłowe.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Nazwa użytkownika lub hasło są nieprawidłowe. Pozostałe próby: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Nazwa tego komputera</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Połączone urządzenia</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Ufaj temu urządzeniu</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Nie pytaj ponownie na tym komputerze przez %1 dni</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Wprowadź jeden z zapisanych kodów odzyskiwania. Każdy kod działa tylko raz.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Pozostałe kody odzyskiwania: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Ten kod został już użyty. Poczekaj na następny.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Zbyt wiele nieprawidłowych kodów. Odczekaj %1 min i spróbuj ponownie.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Logowanie dwuetapowe jest włączone.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Zadania kopii zapasowej</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Zadanie kopii zapasowej kopiuje foldery tego komputera na serwer Corvimo Server i zachowuje wcześniejsze wersje.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Biurko</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumenty</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Obrazy</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Muzyka</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Filmy</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Tworzenie kopii zapasowej...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Tworzenie kopii zapasowej, pliki: %1 z %2</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Nie utworzono jeszcze kopii zapasowej</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Tworzenie kopii zapasowej zostało ukończone, ale nie udało się odczytać niektórych plików (%1).</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Tworzenie kopii zapasowej nie powiodło się: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Pominięto tworzenie kopii zapasowej zaplanowane na %1. Rozpocznie się teraz.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Liczba dni od ostatniej kopii zapasowej tego komputera: %1.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Zachowuj wszystkie wersje</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Zachowuj ostatnie wersje: %1</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Zachowuj wersje przez %1 dni</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Przywróć pliki</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Wybierz pliki do przywrócenia i miejsce dla nich.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Przywróć w pierwotnym miejscu</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Zastępuj istniejące pliki</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Przywracanie plików: %1 z %2</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Wszystkie pliki zostały przywrócone.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>Przywrócone pliki: %1, pliki, których nie udało się przywrócić: %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Zweryfikuj</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Kopia zapasowa jest nienaruszona.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Uszkodzone pliki w kopii zapasowej: %1. Zostaną skopiowane ponownie.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Dziękujemy za korzystanie z aplikacji Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Kopiuj informacje o wersji</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Informacje o wersji skopiowano do schowka.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Ostrzegaj przed usunięciem wielu plików</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Resetuj ustawienia</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Czy chcesz zresetować wszystkie ustawienia? Zadania synchronizacji pozostaną bez zmian.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Tym ustawieniem zarządza administrator.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Na tym komputerze widać wszystkie pliki, ale plik jest pobierany dopiero wtedy, gdy go otworzysz.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Włącz pliki na żądanie</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Czy chcesz włączyć pliki na żądanie dla „%1”? Pliki, które są już na tym komputerze, na nim pozostaną.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Czy chcesz wyłączyć pliki na żądanie? Zostaną pobrane wszystkie pliki z tego folderu (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Za mało miejsca, aby pobrać wszystkie pliki. Potrzeba jeszcze %1.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Częściowo na tym komputerze</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>Pliki, które będą dostępne tylko online: %1. Czy chcesz kontynuować?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>Zwolnione miejsce na dysku: %1.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Zwalniaj miejsce automatycznie</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Pliki nieotwierane przez %1 dni stają się dostępne tylko online</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Wybierz foldery zespołów, które chcesz mieć na tym komputerze.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Nie masz dostępu do żadnego folderu zespołu.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Synchronizuj wszystkie pliki</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Wybierz foldery</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Aplikacja Corvimo Client potrzebuje Twojego zezwolenia na pokazywanie powiadomień i odczyt folderów.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Otwórz ustawienia prywatności</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Przed rozpoczęciem sprawdź wybrane opcje.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>Pliki do pobrania: %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Wszystko gotowe</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Aplikacja Corvimo Client synchronizuje teraz Twoje pliki. Znajdziesz ją na pasku menu.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Ikony na plikach pokazują, czy są one zsynchronizowane.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Czy chcesz przerwać konfigurację? Możesz ją dokończyć później.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Znaleziono ustawienia wcześniejszej instalacji. Czy chcesz ich użyć?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 B</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>Foldery: %1</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>Elementy: %1</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 z %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>Pliki: %1, foldery: %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>W zeszłym miesiącu</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 godz.</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 dni</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>Pozostało: %1 s</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>Pozostało: %1 min</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>Pozostało: %1 godz.</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Nie pokazuj więcej tego komunikatu</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Proszę czekać...</translation>
     </message>
 </context>
 </TS>

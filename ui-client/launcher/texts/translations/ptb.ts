@@ -136,7 +136,7 @@
         <translation>Sincronizando...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Sincronizando, %1 arquivos restantes</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Visão geral</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Tarefas de sincronização</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Tarefas de backup</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Pasta não encontrada</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Somente leitura</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 foi movido para %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%1 arquivos foram alterados por %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Nome da nova pasta</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Não foi possível criar a pasta “%1”. Escolha outro nome ou verifique sua permissão.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Comparando as duas pastas...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 de %2 arquivos comparados</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Sincronização seletiva</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Escolha o que sincronizar com este computador. As pastas que você desmarcar serão removidas deste computador, mas permanecerão no Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Sincronizar novas pastas automaticamente</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Carregando pastas...</translation>
+        <source>Loading...</source>
+        <translation>Carregando...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Tentar novamente</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 pastas serão removidas deste computador. Elas permanecem no Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Digite uma extensão, por exemplo, “iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>A extensão “%1” já está na lista.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>O nome “%1” já está na lista.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>“%1” já está na lista.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Digite um tamanho entre %1 e %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Não sincronizado devido ao filtro</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Sua escolha foi salva. O Corvimo Client a está aplicando agora.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Documentos</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Imagens</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Vídeos</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Música</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Carregando versões...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Protegida contra exclusão automática</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>O Corvimo Server mantém até %1 versões de um arquivo.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>O histórico de versões está desativado para esta pasta. Peça ao administrador do Corvimo Server para ativá-lo.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Excluído em %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Deseja restaurar os itens selecionados (%1)?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>%1 itens foram restaurados.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Sem acesso</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>A permissão de %1 foi alterada.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Compartilhado por mim</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Compartilhado com %1 pessoas</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Digite uma senha para o link.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Válido até</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Número de downloads permitidos</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>%1 downloads restantes</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Excluir cópias em conflito</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Deseja excluir %1 cópias em conflito? Elas não poderão ser recuperadas.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Procurando servidores...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Nenhum servidor foi encontrado nesta rede. Digite o endereço manualmente.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>%1 servidores encontrados</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>O Corvimo Server não está instalado ou não está em execução neste servidor.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>O servidor está em manutenção. A sincronização continuará quando ele voltar.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Este computador foi bloqueado após muitas tentativas sem sucesso. Peça ao administrador para desbloqueá-lo.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Um firewall pode estar bloqueando o Corvimo Client. Permita que ele use a porta %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Deseja remover a conexão com %1? As tarefas de sincronização dela serão excluídas, mas seus arquivos permanecem.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 arquivos ainda não foram enviados.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>O certificado de %1 não é o que foi usado antes. Pergunte ao administrador se ele foi renovado.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>O certificado usa um algoritmo que não é mais considerado seguro.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Válido a partir de</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Válido até</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Deseja esvaziar a lixeira? Os arquivos nela não poderão ser recuperados.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>A lixeira foi esvaziada. %1 estão livres novamente.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Aguarde...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Seu armazenamento está quase cheio. Restam apenas %1.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Pouco espaço em disco</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Restam apenas %1 no disco “%2”. A sincronização para quando o disco está cheio.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>O disco está cheio</translation>
+        <source>Not enough disk space</source>
+        <translation>Espaço insuficiente em disco</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>O disco com a pasta “%1” não está conectado. Conecte-o para continuar a sincronização.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>O disco “%1” é somente leitura. As alterações do Corvimo Server não podem ser salvas nele.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Excluir arquivos temporários</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>%1 de arquivos temporários foram excluídos.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>O %1 está sendo inicializado...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Suas configurações estão sendo importadas da versão anterior.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Suas configurações foram importadas. Você pode continuar de onde parou.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Algumas configurações da versão anterior não puderam ser importadas. Verifique suas tarefas de sincronização.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Você não tem notificações.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 novas notificações</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Todos os arquivos estão atualizados.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>A primeira sincronização foi concluída. Agora há %1 arquivos neste computador.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Não foi possível sincronizar estes arquivos. O Corvimo Client tentará novamente quando a causa for eliminada.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 problemas</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Hora</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Tentar todos novamente</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>O arquivo foi alterado durante o envio. Ele será enviado novamente.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>O arquivo foi danificado durante a transferência. Ele será transferido novamente.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Não é possível ler o arquivo. Verifique suas permissões.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Não é possível gravar o arquivo. Verifique suas permissões.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>O Corvimo Server não está aceitando alterações no momento.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>O disco do Corvimo Server está cheio.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>O volume com esta pasta não está disponível no Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>O servidor enviou uma resposta que o Corvimo Client não entende.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Sua sessão terminou. Entre novamente.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Muitas solicitações foram enviadas ao servidor. A sincronização continuará em breve.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>O disco foi removido enquanto arquivos estavam sendo gravados.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Espaço insuficiente em disco</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Memória insuficiente. Feche outros programas e tente novamente.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>As alterações em algumas pastas podem demorar a ser percebidas porque o sistema monitora pastas demais.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>O relógio deste computador difere do relógio do servidor em mais de %1 minutos. Acerte-o.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Esta ação não é compatível com o Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>A ação foi cancelada.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Falta um componente do Corvimo Client. Instale o cliente novamente.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Os ícones de status não podem ser mostrados porque outros programas usam todos os lugares disponíveis para eles.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Se o problema persistir, reinicie o Corvimo Client.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Se o problema persistir, fale com o administrador do Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domínio</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Digite seu nome como domínio\usuário se sua conta pertencer a um domínio.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>Endereço de e-mail</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Alterar senha</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Sua senha foi alterada.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>O administrador pede que você altere sua senha.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Sua senha expira em %1 dias.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>O nome de usuário ou a senha está incorreto.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>O nome de usuário ou a senha está incorreto. Tentativas restantes: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Nome deste computador</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Dispositivos conectados</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Confiar neste dispositivo</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Não perguntar novamente neste computador por %1 dias</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Digite um dos códigos de recuperação que você anotou. Cada código funciona uma vez.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Códigos de recuperação restantes: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Este código já foi usado. Aguarde o próximo.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Muitos códigos incorretos. Aguarde %1 minutos e tente novamente.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>A verificação em duas etapas está ativada.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Tarefas de backup</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Uma tarefa de backup copia pastas deste computador para o Corvimo Server e mantém versões anteriores.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Mesa</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imagens</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Fazendo backup...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Fazendo backup, %1 de %2 arquivos</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Nenhum backup ainda</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>O backup foi concluído, mas não foi possível ler %1 arquivos.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>O backup falhou: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>O backup agendado para %1 não foi realizado. Ele está começando agora.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Não é feito um backup deste computador há %1 dias.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Manter todas as versões</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Manter as últimas %1 versões</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Manter as versões por %1 dias</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Restaurar arquivos</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Escolha os arquivos a restaurar e um lugar para colocá-los.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Restaurar para o lugar original</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Substituir arquivos existentes</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Restaurando %1 de %2 arquivos</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Todos os arquivos foram restaurados.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>%1 arquivos foram restaurados, %2 arquivos não puderam ser restaurados.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Verificar</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>O backup está íntegro.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>%1 arquivos do backup estão danificados. Eles serão copiados novamente.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Obrigado por usar o Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Copiar informações da versão</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>As informações da versão foram copiadas para a área de transferência.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Avisar antes que muitos arquivos sejam excluídos</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Redefinir configurações</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Deseja redefinir todas as configurações? Suas tarefas de sincronização não são alteradas.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Esta configuração é gerenciada pelo seu administrador.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Todos os arquivos aparecem neste computador, mas um arquivo só é baixado quando você o abre.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Ativar arquivos sob demanda</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Deseja ativar os arquivos sob demanda para “%1”? Os arquivos que já estão neste computador permanecem aqui.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Deseja desativar os arquivos sob demanda? Todos os arquivos desta pasta serão baixados (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Não há espaço suficiente para baixar todos os arquivos. São necessários mais %1.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Parcialmente neste computador</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 arquivos ficarão disponíveis somente online. Deseja continuar?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 de espaço em disco foram liberados.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Liberar espaço automaticamente</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Arquivos não abertos por %1 dias passam a ser somente online</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Escolha as pastas de equipe que você deseja neste computador.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Você não é membro de nenhuma pasta de equipe.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Sincronizar todos os arquivos</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Escolher pastas</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>O Corvimo Client precisa da sua permissão para mostrar notificações e ler suas pastas.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Abrir ajustes de privacidade</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Verifique suas escolhas antes de começar.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>%1 arquivos (%2) serão baixados.</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Tudo pronto</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>O Corvimo Client está sincronizando seus arquivos. Você o encontra na barra de menus.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Os ícones nos seus arquivos mostram se eles estão sincronizados.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Deseja sair da configuração? Você pode continuar mais tarde.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Foram encontradas configurações de uma instalação anterior. Deseja usá-las?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 bytes</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 pastas</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 itens</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 de %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 arquivos, %2 pastas</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Mês passado</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 segundos</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 minutos</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 horas</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 dias</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 segundos restantes</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 minutos restantes</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 horas restantes</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Não mostrar esta mensagem novamente</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Aguarde...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>Синхронизация...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Синхронизация, осталось файлов: %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Обзор</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Задания синхронизации</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Задания резервного копирования</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Папка не найдена</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Только чтение</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>Перемещено: %1 в %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>Изменено файлов: %1. Автор изменений: %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Имя новой папки</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Не удалось создать папку «%1». Выберите другое имя или проверьте свои права доступа.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Сравнение папок...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>Сравнено файлов: %1 из %2</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Выборочная синхронизация</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Выберите, что синхронизировать с этим компьютером. Папки, с которых снят флажок, удаляются с этого компьютера, но остаются на сервере Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Автоматически синхронизировать новые папки</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Загрузка списка папок...</translation>
+        <source>Loading...</source>
+        <translation>Загрузка...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Повторить попытку</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>С этого компьютера будут удалены папки: %1. Они останутся на сервере Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Введите расширение, например «iso».</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Расширение «%1» уже есть в списке.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Имя «%1» уже есть в списке.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>«%1» уже есть в списке.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Введите размер от %1 до %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Не синхронизируется (фильтр)</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Ваш выбор сохранен. Corvimo Client применяет его.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Документы</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Изображения</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Видео</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Музыка</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Закрыть</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Загрузка списка версий...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Защищено от автоматического удаления</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Сервер Corvimo Server хранит не более указанного числа версий файла: %1.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>История версий для этой папки выключена. Попросите администратора сервера Corvimo Server включить ее.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Удалено: %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Восстановить выбранные элементы (%1)?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Восстановлено элементов: %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Нет доступа</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Права доступа пользователя %1 изменены.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Мой общий доступ</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Количество людей с доступом: %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Введите пароль для ссылки.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Действует до</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Разрешенное количество скачиваний</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Осталось скачиваний: %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Удалить конфликтующие копии</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Удалить конфликтующие копии (%1)? Их нельзя будет вернуть.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Поиск серверов...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>В этой сети не найдено ни одного сервера. Введите адрес вручную.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Найдено серверов: %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>На этом сервере не установлен или не запущен Corvimo Server.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>На сервере выполняется обслуживание. Синхронизация продолжится, когда он снова станет доступен.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Этот компьютер заблокирован из-за слишком большого количества неудачных попыток. Попросите администратора разблокировать его.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Возможно, брандмауэр блокирует Corvimo Client. Разрешите использование порта %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Удалить подключение к %1? Связанные с ним задания синхронизации будут удалены, но ваши файлы останутся.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>Файлов, еще не отправленных на сервер: %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Сертификат %1 отличается от использовавшегося ранее. Уточните у администратора, был ли он обновлен.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>В сертификате используется алгоритм, который больше не считается безопасным.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Действует с</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Действует до</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Очистить корзину? Файлы из нее нельзя будет вернуть.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Корзина очищена. Освобождено: %1.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Подождите...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Ваше хранилище почти заполнено. Осталось только %1.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Мало места на диске</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>На диске «%2» осталось только %1. Синхронизация остановится, когда диск заполнится.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Диск заполнен</translation>
+        <source>Not enough disk space</source>
+        <translation>Недостаточно места на диске</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Диск с папкой «%1» не подключен. Подключите его, чтобы продолжить синхронизацию.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Диск «%1» доступен только для чтения. На него нельзя сохранить изменения с сервера Corvimo Server.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Удалить временные файлы</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>Удалено временных файлов: %1.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 выполняет инициализацию...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Выполняется перенос настроек из предыдущей версии.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Ваши настройки перенесены. Вы можете продолжить с того места, где остановились.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Некоторые настройки предыдущей версии не удалось перенести. Проверьте задания синхронизации.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>У вас нет уведомлений.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Новых уведомлений: %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Все файлы синхронизированы.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>Первая синхронизация завершена. Файлов на этом компьютере: %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Эти файлы не удалось синхронизировать. Corvimo Client повторит попытку, когда причина будет устранена.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Проблем: %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Время</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Повторить все</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Файл изменился во время отправки. Он будет отправлен снова.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Файл был поврежден при передаче. Он будет передан снова.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Не удается прочитать файл. Проверьте права доступа к нему.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Не удается записать файл. Проверьте права доступа к нему.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server сейчас не принимает изменения.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Диск сервера Corvimo Server заполнен.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Том с этой папкой недоступен на сервере Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Сервер отправил ответ, непонятный для Corvimo Client.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Ваш сеанс завершен. Войдите снова.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>На сервер отправлено слишком много запросов. Синхронизация скоро продолжится.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Диск был отключен во время записи файлов.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Недостаточно места на диске</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Недостаточно памяти. Закройте другие программы и повторите попытку.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Изменения в некоторых папках могут обнаруживаться с задержкой, так как система отслеживает слишком много папок.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Часы этого компьютера расходятся с часами сервера более чем на %1 мин. Установите правильное время.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Это действие не поддерживается сервером Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>Действие отменено.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Отсутствует компонент приложения Corvimo Client. Установите клиент заново.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Невозможно показать значки состояния, так как все места для них заняты другими программами.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Если проблема не исчезнет, перезапустите Corvimo Client.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Если проблема не исчезнет, обратитесь к администратору сервера Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Домен</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Если ваша учетная запись принадлежит домену, введите имя в виде домен\пользователь.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>Адрес электронной почты</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Изменить пароль</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Ваш пароль изменен.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Администратор просит вас изменить пароль.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Дней до окончания срока действия пароля: %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Неверное имя пользователя или пароль.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Неверное имя пользователя или пароль. Осталось попыток: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Имя этого компьютера</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Подключенные устройства</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Доверять этому устройству</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Не спрашивать на этом компьютере %1 дн.</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Введите один из записанных вами кодов восстановления. Каждый код можно использовать один раз.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Осталось кодов восстановления: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Этот код уже использован. Дождитесь следующего.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Слишком много неверных кодов. Подождите %1 мин и повторите попытку.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Двухэтапный вход включен.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Задания резервного копирования</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Задание резервного копирования копирует папки этого компьютера на сервер Corvimo Server и хранит предыдущие версии.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Рабочий стол</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Документы</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Изображения</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Музыка</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Видео</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Резервное копирование...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Резервное копирование, файлов: %1 из %2</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Резервная копия еще не создана</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Резервное копирование завершено, но некоторые файлы не удалось прочитать: %1.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Не удалось выполнить резервное копирование: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Резервное копирование, запланированное на %1, было пропущено. Оно начинается сейчас.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Дней без резервного копирования этого компьютера: %1.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Хранить все версии</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Хранить последние версии: %1</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Хранить версии %1 дн.</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Восстановить файлы</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Выберите файлы для восстановления и место для них.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Восстановить в исходное место</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Заменять существующие файлы</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Восстановление файлов: %1 из %2</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Все файлы восстановлены.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>Восстановлено файлов: %1, не удалось восстановить: %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Проверить</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Резервная копия не повреждена.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Поврежденных файлов в резервной копии: %1. Они будут скопированы снова.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Благодарим вас за использование Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Скопировать сведения о версии</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Сведения о версии скопированы в буфер обмена.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Предупреждать перед удалением большого количества файлов</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Сбросить настройки</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Сбросить все настройки? Задания синхронизации останутся без изменений.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Этим параметром управляет ваш администратор.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Все файлы отображаются на этом компьютере, но файл скачивается, только когда вы его открываете.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Включить файлы по запросу</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Включить файлы по запросу для «%1»? Файлы, которые уже есть на этом компьютере, останутся на нем.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Выключить файлы по запросу? Все файлы этой папки будут скачаны (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Недостаточно места для скачивания всех файлов. Требуется еще %1.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Частично на этом компьютере</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>Файлов, которые будут доступны только онлайн: %1. Продолжить?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>Освобождено на диске: %1.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Освобождать место автоматически</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Переводить в режим «только онлайн» файлы, которые не открывались %1 дн.</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Выберите командные папки, которые нужны вам на этом компьютере.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>У вас нет доступа ни к одной командной папке.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Синхронизировать все файлы</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Выбрать папки</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Приложению Corvimo Client требуется ваше разрешение на показ уведомлений и чтение ваших папок.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Открыть настройки конфиденциальности</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Проверьте выбранные параметры перед началом.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>Будет скачано файлов: %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Все готово</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client синхронизирует ваши файлы. Вы найдете его в строке меню.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Значки на ваших файлах показывают, синхронизированы ли они.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Выйти из настройки? Вы сможете продолжить позже.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Найдены настройки предыдущей установки. Использовать их?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 Б</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>Папок: %1</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>Элементов: %1</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 из %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>Файлов: %1, папок: %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>В прошлом месяце</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 с</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 мин</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 ч</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 дн.</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>Осталось %1 с</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>Осталось %1 мин</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>Осталось %1 ч</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Больше не показывать это сообщение</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Подождите...</translation>
     </message>
 </context>
 </TS>

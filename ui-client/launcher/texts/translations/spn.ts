@@ -136,7 +136,7 @@
         <translation>Sincronizando...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Sincronizando, archivos restantes: %1</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Resumen general</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Tareas de sincronización</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Tareas de copia de seguridad</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Carpeta no encontrada</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Solo lectura</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 se ha movido a %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>Archivos modificados por %2: %1.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Nombre de la nueva carpeta</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>No se ha podido crear la carpeta «%1». Elija otro nombre o compruebe sus permisos.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Comparando ambas carpetas...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 de %2 archivos comparados</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Sincronización selectiva</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Elija qué desea sincronizar con este ordenador. Las carpetas que desmarque se quitan de este ordenador, pero permanecen en Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Sincronizar las carpetas nuevas automáticamente</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Cargando carpetas...</translation>
+        <source>Loading...</source>
+        <translation>Cargando...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Reintentar</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>Carpetas que se quitarán de este ordenador: %1. Permanecen en Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Introduzca una extensión, por ejemplo, «iso».</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>La extensión «%1» ya está en la lista.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>El nombre «%1» ya está en la lista.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>«%1» ya está en la lista.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Introduzca un tamaño entre %1 y %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>No sincronizado por el filtro</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Su elección se ha guardado. Corvimo Client la está aplicando.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Documentos</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Imágenes</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Vídeos</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Música</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Cargando versiones...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Protegida contra la eliminación automática</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server conserva hasta %1 versiones de un archivo.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>El historial de versiones está desactivado en esta carpeta. Pida al administrador de Corvimo Server que lo active.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Eliminado el %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>¿Desea restaurar los %1 elementos seleccionados?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>Elementos restaurados: %1.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Sin acceso</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Se ha cambiado el permiso de %1.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Compartido por mí</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Personas con acceso: %1</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Introduzca una contraseña para el enlace.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Válido hasta</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Número de descargas permitidas</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>Descargas restantes: %1</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Eliminar copias en conflicto</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>¿Desea eliminar las copias en conflicto (cantidad: %1)? No se podrán recuperar.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Buscando servidores...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>No se ha encontrado ningún servidor en esta red. Introduzca usted mismo su dirección.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>Servidores encontrados: %1</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server no está instalado o no está en ejecución en este servidor.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>El servidor está en mantenimiento. La sincronización continuará cuando vuelva a estar disponible.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Este ordenador se ha bloqueado tras demasiados intentos fallidos. Pida al administrador que lo desbloquee.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Es posible que un cortafuegos esté bloqueando Corvimo Client. Permítale usar el puerto %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>¿Desea eliminar la conexión con %1? Sus tareas de sincronización se eliminan, pero sus archivos se conservan.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>Archivos que aún no se han subido: %1.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>El certificado de %1 no es el que se usaba antes. Pregunte al administrador si se ha renovado.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>El certificado utiliza un algoritmo que ya no se considera seguro.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Válido desde</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Válido hasta</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>¿Desea vaciar la papelera? Los archivos que contiene no se podrán recuperar.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>La papelera se ha vaciado. %1 vuelven a estar libres.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Espere...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Su almacenamiento está casi lleno. Solo quedan %1.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Queda poco espacio en disco</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Solo quedan %1 en el disco «%2». La sincronización se detiene cuando el disco está lleno.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>El disco está lleno</translation>
+        <source>Not enough disk space</source>
+        <translation>No hay suficiente espacio en disco</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>El disco que contiene la carpeta «%1» no está conectado. Conéctelo para continuar la sincronización.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>El disco «%1» es de solo lectura. Los cambios de Corvimo Server no se pueden guardar en él.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Eliminar archivos temporales</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>Se han eliminado los archivos temporales (%1).</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 se está inicializando...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Se están importando los ajustes de la versión anterior.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Se han importado los ajustes. Puede continuar donde lo dejó.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>No se han podido importar algunos ajustes de la versión anterior. Compruebe sus tareas de sincronización.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>No tiene notificaciones.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>Notificaciones nuevas: %1</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Todos los archivos están actualizados.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>La primera sincronización ha terminado. Archivos que están ahora en este ordenador: %1.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Estos archivos no se han podido sincronizar. Corvimo Client volverá a intentarlo cuando desaparezca la causa.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>Problemas: %1</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Hora</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Reintentar todo</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>El archivo ha cambiado mientras se subía. Se volverá a subir.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>El archivo se ha dañado durante la transferencia. Se volverá a transferir.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>No se puede leer el archivo. Compruebe sus permisos.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>No se puede escribir en el archivo. Compruebe sus permisos.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server no acepta cambios en este momento.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>El disco de Corvimo Server está lleno.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>El volumen que contiene esta carpeta no está disponible en Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>El servidor ha enviado una respuesta que Corvimo Client no entiende.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Su sesión ha finalizado. Inicie sesión de nuevo.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Se han enviado demasiadas solicitudes al servidor. La sincronización continuará en breve.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>El disco se ha extraído mientras se escribían archivos.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>No hay suficiente espacio en disco</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>No hay suficiente memoria. Cierre otros programas e inténtelo de nuevo.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Es posible que los cambios de algunas carpetas se detecten tarde porque el sistema vigila demasiadas carpetas.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>El reloj de este ordenador difiere del reloj del servidor en más de %1 minutos. Póngalo en hora.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Corvimo Server no admite esta acción.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>La acción se ha cancelado.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Falta un componente de Corvimo Client. Vuelva a instalar el cliente.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Los iconos de estado no se pueden mostrar porque otros programas ocupan todos los espacios disponibles.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Si el problema persiste, reinicie Corvimo Client.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Si el problema persiste, consulte al administrador de Corvimo Server.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Dominio</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Introduzca su nombre como dominio\usuario si su cuenta pertenece a un dominio.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>Dirección de correo electrónico</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Cambiar contraseña</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Su contraseña se ha cambiado.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>El administrador le pide que cambie su contraseña.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Días hasta que caduque su contraseña: %1.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>El nombre de usuario o la contraseña son incorrectos.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>El nombre de usuario o la contraseña son incorrectos. Intentos restantes: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Nombre de este ordenador</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Dispositivos conectados</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Confiar en este dispositivo</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>No volver a preguntar en este ordenador durante %1 días</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Introduzca uno de los códigos de recuperación que anotó. Cada código funciona una sola vez.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Códigos de recuperación restantes: %1.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Este código ya se ha usado. Espere al siguiente.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Demasiados códigos incorrectos. Espere %1 min e inténtelo de nuevo.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>El inicio de sesión en dos pasos está activado.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Tareas de copia de seguridad</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Una tarea de copia de seguridad copia carpetas de este ordenador en Corvimo Server y conserva las versiones anteriores.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Escritorio</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Música</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Vídeos</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Haciendo copia de seguridad...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Haciendo copia de seguridad, %1 de %2 archivos</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Sin copia de seguridad todavía</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>La copia de seguridad se ha completado. Archivos que no se han podido leer: %1.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>La copia de seguridad ha fallado: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>No se realizó la copia de seguridad prevista para %1. Se inicia ahora.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>No se ha hecho ninguna copia de seguridad de este ordenador desde hace %1 días.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Conservar todas las versiones</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Conservar las últimas %1 versiones</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Conservar las versiones durante %1 días</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Restaurar archivos</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Elija los archivos que desea restaurar y dónde colocarlos.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Restaurar en la ubicación original</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Reemplazar los archivos existentes</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Restaurando %1 de %2 archivos</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Se han restaurado todos los archivos.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>Archivos restaurados: %1, archivos que no se han podido restaurar: %2.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Verificar</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>La copia de seguridad está intacta.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Archivos dañados en la copia de seguridad: %1. Se volverán a copiar.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Gracias por usar Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Copiar información de la versión</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>La información de la versión se ha copiado en el portapapeles.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Avisarme antes de eliminar muchos archivos</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Restablecer ajustes</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>¿Desea restablecer todos los ajustes? Sus tareas de sincronización no cambian.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Su administrador gestiona este ajuste.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Todos los archivos aparecen en este ordenador, pero un archivo solo se descarga cuando usted lo abre.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Activar archivos bajo demanda</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>¿Desea activar los archivos bajo demanda para «%1»? Los archivos que ya están en este ordenador permanecen aquí.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>¿Desea desactivar los archivos bajo demanda? Se descargarán todos los archivos de esta carpeta (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>No hay suficiente espacio para descargar todos los archivos. Se necesitan %1 más.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Parcialmente en este ordenador</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>Archivos que estarán disponibles solo en línea: %1. ¿Desea continuar?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>Se han liberado %1 de espacio en disco.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Liberar espacio automáticamente</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Conservar solo en línea los archivos no abiertos en %1 días</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Elija las carpetas de equipo que desea tener en este ordenador.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>No es miembro de ninguna carpeta de equipo.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Sincronizar todos los archivos</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Elegir carpetas</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client necesita su permiso para mostrar notificaciones y leer sus carpetas.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Abrir ajustes de privacidad</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Compruebe sus opciones antes de empezar.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>Archivos que se descargarán: %1 (%2).</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Todo está listo</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client está sincronizando sus archivos. Lo encontrará en la barra de menús.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Los iconos de sus archivos indican si están sincronizados.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>¿Desea abandonar la configuración? Puede continuar más tarde.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Se han encontrado ajustes de una instalación anterior. ¿Desea usarlos?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 bytes</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 carpetas</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 elementos</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 de %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>Archivos: %1, carpetas: %2</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>El mes pasado</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 s</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 min</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 h</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 días</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>Quedan %1 s</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>Quedan %1 min</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>Quedan %1 h</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>No volver a mostrar este mensaje</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Espere...</translation>
     </message>
 </context>
 </TS>

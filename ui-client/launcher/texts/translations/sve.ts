@@ -136,7 +136,7 @@
         <translation>Synkroniserar...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Synkroniserar, %1 filer kvar</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Översikt</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Synkroniseringsuppgifter</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Säkerhetskopieringsuppgifter</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Mappen hittades inte</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Skrivskyddad</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 flyttades till %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%1 filer ändrades av %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Namn på den nya mappen</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>Mappen ”%1” kunde inte skapas. Välj ett annat namn eller kontrollera din behörighet.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>Jämför båda mapparna...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 av %2 filer jämförda</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Selektiv synkronisering</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Välj vad som ska synkroniseras till den här datorn. Mappar som du avmarkerar tas bort från den här datorn men finns kvar på Corvimo Server.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Synkronisera nya mappar automatiskt</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Läser in mappar...</translation>
+        <source>Loading...</source>
+        <translation>Läser in...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Försök igen</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 mappar tas bort från den här datorn. De finns kvar på Corvimo Server.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Ange ett filtillägg, till exempel ”iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>Filtillägget ”%1” finns redan i listan.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>Namnet ”%1” finns redan i listan.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>”%1” finns redan i listan.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>Ange en storlek mellan %1 och %2.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Synkroniseras inte på grund av filter</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Ditt val har sparats. Corvimo Client tillämpar det nu.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Dokument</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Bilder</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Videor</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Musik</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Stäng</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Läser in versioner...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Skyddad från automatisk radering</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server behåller upp till %1 versioner av en fil.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>Versionshistorik är avstängd för den här mappen. Be administratören för Corvimo Server att slå på den.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Raderad %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Vill du återställa de markerade objekten (%1)?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>%1 objekt återställdes.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Ingen åtkomst</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>Behörigheten för %1 ändrades.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Delat av mig</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>Delat med %1 personer</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Ange ett lösenord för länken.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Giltig till</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>Antal tillåtna nedladdningar</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>%1 nedladdningar kvar</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Radera konfliktkopior</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>Vill du radera %1 konfliktkopior? De kan inte återskapas.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Söker efter servrar...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Ingen server hittades i det här nätverket. Ange dess adress själv.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>%1 servrar hittades</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server är inte installerat eller körs inte på den här servern.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Underhåll pågår på servern. Synkroniseringen fortsätter när den är tillbaka.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Den här datorn blockerades efter för många misslyckade försök. Be administratören att häva blockeringen.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>En brandvägg kan blockera Corvimo Client. Tillåt att port %1 används.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>Vill du ta bort anslutningen till %1? Dess synkroniseringsuppgifter raderas, men dina filer finns kvar.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 filer har inte laddats upp ännu.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>Certifikatet för %1 är inte detsamma som användes tidigare. Fråga administratören om det har förnyats.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Certifikatet använder en algoritm som inte längre anses säker.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Giltigt från</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Giltig till</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Vill du tömma papperskorgen? Filerna i den kan inte återskapas.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Papperskorgen tömdes. %1 är ledigt igen.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Vänta...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Ditt lagringsutrymme är nästan fullt. Bara %1 återstår.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Ont om diskutrymme</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>Bara %1 återstår på disken ”%2”. Synkroniseringen stoppas när disken är full.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Disken är full</translation>
+        <source>Not enough disk space</source>
+        <translation>Inte tillräckligt med diskutrymme</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>Disken med mappen ”%1” är inte ansluten. Anslut den för att fortsätta synkroniseringen.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>Disken ”%1” är skrivskyddad. Ändringar från Corvimo Server kan inte sparas på den.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Radera temporära filer</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>%1 temporära filer raderades.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 initialiserar...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Dina inställningar tas över från den tidigare versionen.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Dina inställningar har tagits över. Du kan fortsätta där du slutade.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>En del inställningar från den tidigare versionen kunde inte tas över. Kontrollera dina synkroniseringsuppgifter.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Du har inga notiser.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 nya notiser</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Alla filer är uppdaterade.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>Den första synkroniseringen är klar. %1 filer finns nu på den här datorn.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>De här filerna kunde inte synkroniseras. Corvimo Client försöker igen när orsaken är åtgärdad.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 problem</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Tid</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Försök igen med alla</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Filen ändrades medan den laddades upp. Den laddas upp igen.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Filen skadades under överföringen. Den överförs igen.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Filen kan inte läsas. Kontrollera dess behörigheter.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Det går inte att skriva till filen. Kontrollera dess behörigheter.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server tar inte emot några ändringar just nu.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Disken på Corvimo Server är full.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Volymen med den här mappen är inte tillgänglig på Corvimo Server.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Servern skickade ett svar som Corvimo Client inte förstår.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Din session har avslutats. Logga in igen.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>För många förfrågningar skickades till servern. Synkroniseringen fortsätter snart.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Disken togs bort medan filer skrevs.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Inte tillräckligt med diskutrymme</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Inte tillräckligt med minne. Stäng andra program och försök igen.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Ändringar i en del mappar kan upptäckas sent eftersom systemet bevakar för många mappar.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Den här datorns klocka skiljer sig från serverns klocka med mer än %1 minuter. Ställ den rätt.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Den här åtgärden stöds inte av Corvimo Server.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>Åtgärden avbröts.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>En komponent i Corvimo Client saknas. Installera klienten på nytt.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Statussymbolerna kan inte visas eftersom andra program använder alla platser för dem.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Starta om Corvimo Client om problemet kvarstår.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Fråga administratören för Corvimo Server om problemet kvarstår.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Domän</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Ange ditt namn som domän\användare om ditt konto tillhör en domän.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-postadress</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Namn</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Byt lösenord</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Ditt lösenord har bytts.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Administratören ber dig att byta lösenord.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Ditt lösenord upphör att gälla om %1 dagar.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Användarnamnet eller lösenordet är fel.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Användarnamnet eller lösenordet är fel. Antal återstående försök: %1.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Namn på den här datorn</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Anslutna enheter</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Lita på den här enheten</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Fråga inte igen på den här datorn på %1 dagar</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Ange en av återställningskoderna som du skrev ned. Varje kod fungerar en gång.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>Du har %1 återställningskoder kvar.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Den här koden har redan använts. Vänta på nästa.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>För många felaktiga koder. Vänta %1 minuter och försök igen.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>Tvåstegsinloggning är på.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Säkerhetskopieringsuppgifter</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>En säkerhetskopieringsuppgift kopierar mappar på den här datorn till Corvimo Server och behåller tidigare versioner.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Skrivbord</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videor</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Säkerhetskopierar...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Säkerhetskopierar, %1 av %2 filer</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Inte säkerhetskopierad ännu</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Säkerhetskopieringen är klar, men %1 filer kunde inte läsas.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Säkerhetskopieringen misslyckades: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>Säkerhetskopieringen som planerades till %1 missades. Den startar nu.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Den här datorn har inte säkerhetskopierats på %1 dagar.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Behåll alla versioner</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Behåll de senaste %1 versionerna</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Behåll versioner i %1 dagar</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Återställ filer</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Välj de filer som ska återställas och var de ska placeras.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Återställ till den ursprungliga platsen</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Ersätt befintliga filer</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>Återställer %1 av %2 filer</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Alla filer återställdes.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>%1 filer återställdes, %2 filer kunde inte återställas.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Verifiera</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Säkerhetskopian är intakt.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>%1 filer i säkerhetskopian är skadade. De säkerhetskopieras igen.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Tack för att du använder Corvimo Client.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Kopiera versionsinformation</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Versionsinformationen kopierades till urklipp.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Varna mig innan många filer raderas</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Återställ inställningarna</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Vill du återställa alla inställningar? Dina synkroniseringsuppgifter påverkas inte.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Den här inställningen hanteras av din administratör.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Alla filer listas på den här datorn, men en fil laddas ned först när du öppnar den.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>Slå på filer på begäran</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>Vill du slå på filer på begäran för ”%1”? Filer som redan finns på den här datorn blir kvar här.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>Vill du stänga av filer på begäran? Alla filer i den här mappen laddas ned (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Det finns inte tillräckligt med utrymme för att ladda ned alla filer. Det krävs %1 till.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Delvis på den här datorn</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 filer blir endast tillgängliga online. Vill du fortsätta?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 diskutrymme frigjordes.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Frigör utrymme automatiskt</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>Filer som inte har öppnats på %1 dagar blir endast online</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Välj de gruppmappar som du vill ha på den här datorn.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Du är inte medlem i någon gruppmapp.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Synkronisera alla filer</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Välj mappar</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client behöver din tillåtelse för att visa notiser och läsa dina mappar.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Öppna integritetsinställningarna</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Kontrollera dina val innan du börjar.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>%1 filer (%2) laddas ned.</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Allt är klart</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client synkroniserar nu dina filer. Du hittar programmet i menyraden.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Symbolerna på dina filer visar om de är synkroniserade.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Vill du lämna konfigureringen? Du kan fortsätta senare.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Inställningar från en tidigare installation hittades. Vill du använda dem?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 byte</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 mappar</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 objekt</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 av %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 filer, %2 mappar</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Förra månaden</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 sekunder</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 minuter</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 timmar</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 dagar</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 sekunder kvar</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 minuter kvar</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 timmar kvar</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Visa inte det här meddelandet igen</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Vänta...</translation>
     </message>
 </context>
 </TS>

@@ -136,7 +136,7 @@
         <translation>กำลังซิงค์...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>กำลังซิงค์ เหลืออีก %1 ไฟล์</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>ภาพรวม</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>งานซิงค์</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>งานสำรองข้อมูล</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>ไม่พบโฟลเดอร์</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>อ่านอย่างเดียว</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>ย้าย %1 ไปยัง %2 แล้ว</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>มีการเปลี่ยนแปลง %1 ไฟล์โดย %2</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>ชื่อของโฟลเดอร์ใหม่</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>ไม่สามารถสร้างโฟลเดอร์ “%1” ได้ โปรดเลือกชื่ออื่นหรือตรวจสอบสิทธิ์ของคุณ</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>กำลังเปรียบเทียบทั้งสองโฟลเดอร์...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>เปรียบเทียบแล้ว %1 จาก %2 ไฟล์</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>การซิงค์แบบเลือก</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>เลือกสิ่งที่จะซิงค์ไปยังคอมพิวเตอร์เครื่องนี้ โฟลเดอร์ที่คุณไม่เลือกจะถูกเอาออกจากคอมพิวเตอร์เครื่องนี้แต่จะยังอยู่ใน Corvimo Server</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>ซิงค์โฟลเดอร์ใหม่โดยอัตโนมัติ</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>กำลังโหลดโฟลเดอร์...</translation>
+        <source>Loading...</source>
+        <translation>กำลังโหลด...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>ลองอีกครั้ง</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 โฟลเดอร์จะถูกเอาออกจากคอมพิวเตอร์เครื่องนี้ แต่จะยังอยู่ใน Corvimo Server</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>ป้อนนามสกุลไฟล์ เช่น “iso”</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>มีนามสกุล “%1” ในรายการอยู่แล้ว</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>มีชื่อ “%1” ในรายการอยู่แล้ว</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>มี “%1” ในรายการอยู่แล้ว</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>ป้อนขนาดระหว่าง %1 ถึง %2</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>ไม่ซิงค์เนื่องจากตัวกรอง</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>บันทึกตัวเลือกของคุณแล้ว Corvimo Client กำลังนำไปใช้</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>เอกสาร</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>รูปภาพ</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>วิดีโอ</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>เพลง</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>ปิด</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>กำลังโหลดเวอร์ชัน...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>ได้รับการป้องกันจากการลบอัตโนมัติ</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server เก็บเวอร์ชันของไฟล์ได้สูงสุด %1 เวอร์ชัน</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>ประวัติเวอร์ชันของโฟลเดอร์นี้ปิดอยู่ โปรดขอให้ผู้ดูแลระบบของ Corvimo Server เปิดใช้</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>ลบเมื่อ %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>คุณต้องการกู้คืนรายการที่เลือก %1 รายการหรือไม่</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>กู้คืน %1 รายการแล้ว</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>ไม่มีสิทธิ์เข้าถึง</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>เปลี่ยนสิทธิ์ของ %1 แล้ว</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>แชร์โดยฉัน</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>แชร์กับ %1 คน</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>ป้อนรหัสผ่านสำหรับลิงก์</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>ใช้ได้จนถึง</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>จำนวนครั้งที่อนุญาตให้ดาวน์โหลด</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>ดาวน์โหลดได้อีก %1 ครั้ง</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>ลบสำเนาที่ขัดแย้งกัน</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>คุณต้องการลบสำเนาที่ขัดแย้งกัน %1 รายการหรือไม่ จะไม่สามารถนำกลับมาได้</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>กำลังค้นหาเซิร์ฟเวอร์...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>ไม่พบเซิร์ฟเวอร์ในเครือข่ายนี้ โปรดป้อนที่อยู่ด้วยตนเอง</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>พบเซิร์ฟเวอร์ %1 เครื่อง</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>ไม่ได้ติดตั้ง Corvimo Server หรือไม่ได้ทำงานบนเซิร์ฟเวอร์นี้</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>เซิร์ฟเวอร์อยู่ระหว่างการบำรุงรักษา การซิงค์จะดำเนินต่อเมื่อเซิร์ฟเวอร์กลับมา</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>คอมพิวเตอร์เครื่องนี้ถูกบล็อกเนื่องจากพยายามไม่สำเร็จหลายครั้งเกินไป โปรดขอให้ผู้ดูแลระบบเลิกบล็อก</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>ไฟร์วอลล์อาจบล็อก Corvimo Client อยู่ โปรดอนุญาตให้ใช้พอร์ต %1</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>คุณต้องการเอาการเชื่อมต่อกับ %1 ออกหรือไม่ งานซิงค์ของการเชื่อมต่อนี้จะถูกลบ แต่ไฟล์ของคุณจะยังอยู่</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>ยังไม่ได้อัปโหลด %1 ไฟล์</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>ใบรับรองของ %1 ไม่ใช่ใบเดียวกับที่เคยใช้ โปรดสอบถามผู้ดูแลระบบว่ามีการต่ออายุหรือไม่</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>ใบรับรองใช้อัลกอริทึมที่ไม่ถือว่าปลอดภัยอีกต่อไป</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>ใช้ได้ตั้งแต่</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>ใช้ได้จนถึง</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>คุณต้องการล้างถังขยะหรือไม่ ไฟล์ในถังขยะจะไม่สามารถนำกลับมาได้</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>ล้างถังขยะแล้ว มีพื้นที่ว่างเพิ่มขึ้น %1</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>โปรดรอสักครู่...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>พื้นที่จัดเก็บของคุณใกล้เต็มแล้ว เหลือเพียง %1</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>พื้นที่ดิสก์เหลือน้อย</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>เหลือพื้นที่เพียง %1 ในดิสก์ “%2” การซิงค์จะหยุดเมื่อดิสก์เต็ม</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>ดิสก์เต็ม</translation>
+        <source>Not enough disk space</source>
+        <translation>พื้นที่ดิสก์ไม่เพียงพอ</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>ดิสก์ที่มีโฟลเดอร์ “%1” ไม่ได้เชื่อมต่ออยู่ โปรดเชื่อมต่อดิสก์เพื่อซิงค์ต่อ</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>ดิสก์ “%1” อ่านได้อย่างเดียว ไม่สามารถบันทึกการเปลี่ยนแปลงจาก Corvimo Server ลงในดิสก์ได้</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>ลบไฟล์ชั่วคราว</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>ลบไฟล์ชั่วคราว %1 แล้ว</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 กำลังเริ่มต้น...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>กำลังนำการตั้งค่าของคุณมาจากเวอร์ชันก่อนหน้า</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>นำการตั้งค่าของคุณมาแล้ว คุณสามารถทำต่อจากจุดที่ค้างไว้ได้</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>ไม่สามารถนำการตั้งค่าบางส่วนมาจากเวอร์ชันก่อนหน้าได้ โปรดตรวจสอบงานซิงค์ของคุณ</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>คุณไม่มีการแจ้งเตือน</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>การแจ้งเตือนใหม่ %1 รายการ</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>ไฟล์ทั้งหมดเป็นปัจจุบันแล้ว</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>การซิงค์ครั้งแรกเสร็จสมบูรณ์ ขณะนี้มี %1 ไฟล์ในคอมพิวเตอร์เครื่องนี้</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>ไม่สามารถซิงค์ไฟล์เหล่านี้ได้ Corvimo Client จะลองอีกครั้งเมื่อสาเหตุหมดไป</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 ปัญหา</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>เวลา</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>ลองทั้งหมดอีกครั้ง</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>ไฟล์มีการเปลี่ยนแปลงขณะอัปโหลด ไฟล์จะถูกอัปโหลดอีกครั้ง</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>ไฟล์เสียหายระหว่างการถ่ายโอน ไฟล์จะถูกถ่ายโอนอีกครั้ง</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>ไม่สามารถอ่านไฟล์ได้ โปรดตรวจสอบสิทธิ์ของไฟล์</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>ไม่สามารถเขียนไฟล์ได้ โปรดตรวจสอบสิทธิ์ของไฟล์</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server ไม่รับการเปลี่ยนแปลงในขณะนี้</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>ดิสก์ของ Corvimo Server เต็ม</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>วอลุ่มที่มีโฟลเดอร์นี้ไม่พร้อมใช้งานใน Corvimo Server</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>เซิร์ฟเวอร์ส่งคำตอบที่ Corvimo Client ไม่เข้าใจ</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>เซสชันของคุณสิ้นสุดแล้ว โปรดลงชื่อเข้าใช้อีกครั้ง</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>มีการส่งคำขอไปยังเซิร์ฟเวอร์มากเกินไป การซิงค์จะดำเนินต่อในไม่ช้า</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>ดิสก์ถูกถอดออกขณะเขียนไฟล์</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>พื้นที่ดิสก์ไม่เพียงพอ</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>หน่วยความจำไม่เพียงพอ โปรดปิดโปรแกรมอื่นแล้วลองอีกครั้ง</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>อาจตรวจพบการเปลี่ยนแปลงในบางโฟลเดอร์ช้า เนื่องจากระบบเฝ้าดูโฟลเดอร์มากเกินไป</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>นาฬิกาของคอมพิวเตอร์เครื่องนี้ต่างจากนาฬิกาของเซิร์ฟเวอร์มากกว่า %1 นาที โปรดตั้งให้ถูกต้อง</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Corvimo Server ไม่รองรับการดำเนินการนี้</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>ยกเลิกการดำเนินการแล้ว</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>ส่วนประกอบของ Corvimo Client หายไป โปรดติดตั้งไคลเอนต์อีกครั้ง</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>ไม่สามารถแสดงไอคอนสถานะได้เนื่องจากโปรแกรมอื่นใช้ตำแหน่งทั้งหมดแล้ว</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>หากยังพบปัญหาอยู่ โปรดเริ่ม Corvimo Client ใหม่</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>หากยังพบปัญหาอยู่ โปรดสอบถามผู้ดูแลระบบของ Corvimo Server</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>โดเมน</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>หากบัญชีของคุณอยู่ในโดเมน ให้ป้อนชื่อในรูปแบบ โดเมน\ผู้ใช้</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>ที่อยู่อีเมล</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>ชื่อ</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>เปลี่ยนรหัสผ่าน</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>เปลี่ยนรหัสผ่านของคุณแล้ว</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>ผู้ดูแลระบบขอให้คุณเปลี่ยนรหัสผ่าน</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>รหัสผ่านของคุณจะหมดอายุใน %1 วัน</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>ชื่อผู้ใช้หรือรหัสผ่านไม่ถูกต้อง</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>ชื่อผู้ใช้หรือรหัสผ่านไม่ถูกต้อง คุณลองได้อีก %1 ครั้ง</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>ชื่อของคอมพิวเตอร์เครื่องนี้</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>อุปกรณ์ที่เชื่อมต่อ</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>เชื่อถืออุปกรณ์นี้</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>ไม่ต้องถามอีกในคอมพิวเตอร์เครื่องนี้เป็นเวลา %1 วัน</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>ป้อนรหัสกู้คืนรหัสใดรหัสหนึ่งที่คุณจดไว้ แต่ละรหัสใช้ได้ครั้งเดียว</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>คุณมีรหัสกู้คืนเหลือ %1 รหัส</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>รหัสนี้ถูกใช้ไปแล้ว โปรดรอรหัสถัดไป</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>ป้อนรหัสผิดหลายครั้งเกินไป โปรดรอ %1 นาทีแล้วลองอีกครั้ง</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>การลงชื่อเข้าใช้แบบสองขั้นตอนเปิดอยู่</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>งานสำรองข้อมูล</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>งานสำรองข้อมูลจะคัดลอกโฟลเดอร์ของคอมพิวเตอร์เครื่องนี้ไปยัง Corvimo Server และเก็บเวอร์ชันก่อนหน้าไว้</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>เดสก์ท็อป</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>เอกสาร</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>รูปภาพ</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>เพลง</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>วิดีโอ</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>กำลังสำรองข้อมูล...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>กำลังสำรองข้อมูล %1 จาก %2 ไฟล์</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>ยังไม่ได้สำรองข้อมูล</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>การสำรองข้อมูลเสร็จสมบูรณ์ แต่ไม่สามารถอ่าน %1 ไฟล์ได้</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>การสำรองข้อมูลล้มเหลว: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>พลาดการสำรองข้อมูลที่วางแผนไว้สำหรับ %1 การสำรองข้อมูลจะเริ่มขณะนี้</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>คอมพิวเตอร์เครื่องนี้ไม่ได้สำรองข้อมูลมา %1 วันแล้ว</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>เก็บทุกเวอร์ชัน</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>เก็บ %1 เวอร์ชันล่าสุด</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>เก็บเวอร์ชันไว้ %1 วัน</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>กู้คืนไฟล์</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>เลือกไฟล์ที่จะกู้คืนและตำแหน่งที่จะวางไฟล์</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>กู้คืนไปยังตำแหน่งเดิม</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>แทนที่ไฟล์ที่มีอยู่</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>กำลังกู้คืน %1 จาก %2 ไฟล์</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>กู้คืนไฟล์ทั้งหมดแล้ว</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>กู้คืน %1 ไฟล์แล้ว ไม่สามารถกู้คืน %2 ไฟล์ได้</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>ตรวจสอบ</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>ข้อมูลสำรองสมบูรณ์ดี</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>%1 ไฟล์ในข้อมูลสำรองเสียหาย ไฟล์จะได้รับการสำรองอีกครั้ง</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>ขอบคุณที่ใช้ Corvimo Client</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>คัดลอกข้อมูลเวอร์ชัน</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>คัดลอกข้อมูลเวอร์ชันไปยังคลิปบอร์ดแล้ว</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>เตือนฉันก่อนลบไฟล์จำนวนมาก</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>รีเซ็ตการตั้งค่า</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>คุณต้องการรีเซ็ตการตั้งค่าทั้งหมดหรือไม่ งานซิงค์ของคุณจะยังคงเหมือนเดิม</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>การตั้งค่านี้จัดการโดยผู้ดูแลระบบของคุณ</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>ไฟล์ทั้งหมดจะแสดงในคอมพิวเตอร์เครื่องนี้ แต่จะดาวน์โหลดเฉพาะเมื่อคุณเปิดไฟล์</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>เปิดใช้ไฟล์ตามต้องการ</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>คุณต้องการเปิดใช้ไฟล์ตามต้องการสำหรับ “%1” หรือไม่ ไฟล์ที่อยู่ในคอมพิวเตอร์เครื่องนี้แล้วจะยังอยู่ที่นี่</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>คุณต้องการปิดใช้ไฟล์ตามต้องการหรือไม่ ไฟล์ทั้งหมดของโฟลเดอร์นี้จะถูกดาวน์โหลด (%1)</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>มีพื้นที่ไม่เพียงพอสำหรับดาวน์โหลดไฟล์ทั้งหมด ต้องการพื้นที่เพิ่มอีก %1</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>อยู่ในคอมพิวเตอร์เครื่องนี้บางส่วน</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 ไฟล์จะใช้ได้แบบออนไลน์เท่านั้น คุณต้องการดำเนินการต่อหรือไม่</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>เพิ่มพื้นที่ดิสก์ว่าง %1 แล้ว</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>เพิ่มพื้นที่ว่างโดยอัตโนมัติ</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>ไฟล์ที่ไม่ได้เปิดเป็นเวลา %1 วันจะเปลี่ยนเป็นออนไลน์เท่านั้น</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>เลือกโฟลเดอร์ทีมที่คุณต้องการในคอมพิวเตอร์เครื่องนี้</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>คุณไม่ได้เป็นสมาชิกของโฟลเดอร์ทีมใด</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>ซิงค์ไฟล์ทั้งหมด</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>เลือกโฟลเดอร์</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client ต้องได้รับสิทธิ์จากคุณเพื่อแสดงการแจ้งเตือนและอ่านโฟลเดอร์ของคุณ</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>เปิดการตั้งค่าความเป็นส่วนตัว</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>ตรวจสอบตัวเลือกของคุณก่อนเริ่ม</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>จะดาวน์โหลด %1 ไฟล์ (%2)</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>พร้อมใช้งานแล้ว</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client กำลังซิงค์ไฟล์ของคุณ คุณสามารถดูได้ในแถบเมนู</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>ไอคอนบนไฟล์ของคุณจะแสดงว่าไฟล์ซิงค์แล้วหรือไม่</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>คุณต้องการออกจากการตั้งค่าหรือไม่ คุณสามารถดำเนินการต่อภายหลังได้</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>พบการตั้งค่าของการติดตั้งก่อนหน้า คุณต้องการใช้หรือไม่</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 ไบต์</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 โฟลเดอร์</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 รายการ</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 จาก %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 ไฟล์, %2 โฟลเดอร์</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>เดือนที่แล้ว</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 วินาที</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 นาที</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 ชั่วโมง</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 วัน</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>เหลือ %1 วินาที</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>เหลือ %1 นาที</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>เหลือ %1 ชั่วโมง</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>ไม่ต้องแสดงข้อความนี้อีก</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>โปรดรอสักครู่...</translation>
     </message>
 </context>
 </TS>

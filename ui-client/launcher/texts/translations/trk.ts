@@ -136,7 +136,7 @@
         <translation>Eşitleniyor...</translation>
     </message>
     <message>
-        <source>Syncing, %1 files left</source>
+        <source>Syncing, files left: %1</source>
         <translation>Eşitleniyor, %1 dosya kaldı</translation>
     </message>
     <message>
@@ -344,7 +344,11 @@
         <translation>Genel bakış</translation>
     </message>
     <message>
-        <source>Backup tasks</source>
+        <source>Sync</source>
+        <translation>Eşitleme görevleri</translation>
+    </message>
+    <message>
+        <source>Backup</source>
         <translation>Yedekleme görevleri</translation>
     </message>
     <message>
@@ -444,7 +448,7 @@
         <translation>Klasör bulunamadı</translation>
     </message>
     <message>
-        <source>Read only</source>
+        <source>Read-only</source>
         <translation>Salt okunur</translation>
     </message>
     <message>
@@ -504,7 +508,7 @@
         <translation>%1 taşındı, yeni konumu: %2.</translation>
     </message>
     <message>
-        <source>%1 files were changed by %2.</source>
+        <source>Files changed by %2: %1.</source>
         <translation>%1 dosya değiştirildi, değiştiren: %2.</translation>
     </message>
     <message>
@@ -556,7 +560,7 @@
         <translation>Yeni klasörün adı</translation>
     </message>
     <message>
-        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permission.</source>
+        <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
         <translation>“%1” klasörü oluşturulamadı. Başka bir ad seçin veya izninizi denetleyin.</translation>
     </message>
     <message>
@@ -648,7 +652,7 @@
         <translation>İki klasör karşılaştırılıyor...</translation>
     </message>
     <message>
-        <source>%1 of %2 files compared</source>
+        <source>Files compared: %1 of %2</source>
         <translation>%1 / %2 dosya karşılaştırıldı</translation>
     </message>
     <message>
@@ -708,7 +712,7 @@
         <translation>Seçmeli eşitleme</translation>
     </message>
     <message>
-        <source>Choose what to sync to this computer. Folders that you clear are removed from this computer but stay on Corvimo Server.</source>
+        <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
         <translation>Bu bilgisayara nelerin eşitleneceğini seçin. Seçimini kaldırdığınız klasörler bu bilgisayardan kaldırılır ancak Corvimo Server sunucusunda kalır.</translation>
     </message>
     <message>
@@ -728,8 +732,8 @@
         <translation>Yeni klasörleri otomatik olarak eşitle</translation>
     </message>
     <message>
-        <source>Loading folders...</source>
-        <translation>Klasörler yükleniyor...</translation>
+        <source>Loading...</source>
+        <translation>Yükleniyor...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -740,7 +744,7 @@
         <translation>Yeniden dene</translation>
     </message>
     <message>
-        <source>%1 folders will be removed from this computer. They stay on Corvimo Server.</source>
+        <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
         <translation>%1 klasör bu bilgisayardan kaldırılacak. Klasörler Corvimo Server sunucusunda kalır.</translation>
     </message>
     <message>
@@ -800,12 +804,8 @@
         <translation>Bir uzantı girin, örneğin “iso”.</translation>
     </message>
     <message>
-        <source>The extension &quot;%1&quot; is already in the list.</source>
-        <translation>“%1” uzantısı zaten listede.</translation>
-    </message>
-    <message>
-        <source>The name &quot;%1&quot; is already in the list.</source>
-        <translation>“%1” adı zaten listede.</translation>
+        <source>&quot;%1&quot; is already in the list.</source>
+        <translation>“%1” zaten listede.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -816,7 +816,7 @@
         <translation>%1 ile %2 arasında bir boyut girin.</translation>
     </message>
     <message>
-        <source>Not synced by filter</source>
+        <source>Excluded by filter</source>
         <translation>Süzgeç nedeniyle eşitlenmiyor</translation>
     </message>
     <message>
@@ -824,19 +824,19 @@
         <translation>Seçiminiz kaydedildi. Corvimo Client şimdi bunu uyguluyor.</translation>
     </message>
     <message>
-        <source>Documents</source>
+        <source>Document files</source>
         <translation>Belgeler</translation>
     </message>
     <message>
-        <source>Pictures</source>
+        <source>Picture files</source>
         <translation>Resimler</translation>
     </message>
     <message>
-        <source>Videos</source>
+        <source>Video files</source>
         <translation>Videolar</translation>
     </message>
     <message>
-        <source>Music</source>
+        <source>Music files</source>
         <translation>Müzik</translation>
     </message>
     <message>
@@ -882,10 +882,6 @@
     <message>
         <source>Close</source>
         <translation>Kapat</translation>
-    </message>
-    <message>
-        <source>Loading versions...</source>
-        <translation>Sürümler yükleniyor...</translation>
     </message>
     <message>
         <source>This file has no previous versions.</source>
@@ -940,11 +936,11 @@
         <translation>Otomatik silmeye karşı korunuyor</translation>
     </message>
     <message>
-        <source>Corvimo Server keeps up to %1 versions of a file.</source>
+        <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
         <translation>Corvimo Server bir dosyanın en çok %1 sürümünü tutar.</translation>
     </message>
     <message>
-        <source>Version history is turned off for this folder. Ask the administrator of Corvimo Server to turn it on.</source>
+        <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
         <translation>Bu klasör için sürüm geçmişi kapalı. Corvimo Server yöneticisinden açmasını isteyin.</translation>
     </message>
     <message>
@@ -964,11 +960,11 @@
         <translation>Silinme tarihi: %1</translation>
     </message>
     <message>
-        <source>Do you want to restore the %1 selected items?</source>
+        <source>Do you want to restore the selected items (%1)?</source>
         <translation>Seçilen %1 öğeyi geri yüklemek istiyor musunuz?</translation>
     </message>
     <message>
-        <source>%1 items were restored.</source>
+        <source>Items restored: %1.</source>
         <translation>%1 öğe geri yüklendi.</translation>
     </message>
     <message>
@@ -1064,7 +1060,7 @@
         <translation>Erişim yok</translation>
     </message>
     <message>
-        <source>The permission of %1 was changed.</source>
+        <source>The permissions of %1 were changed.</source>
         <translation>%1 adlı kullanıcının izni değiştirildi.</translation>
     </message>
     <message>
@@ -1080,7 +1076,7 @@
         <translation>Paylaştıklarım</translation>
     </message>
     <message>
-        <source>Shared with %1 people</source>
+        <source>People with access: %1</source>
         <translation>%1 kişiyle paylaşıldı</translation>
     </message>
     <message>
@@ -1156,7 +1152,7 @@
         <translation>Bağlantı için bir parola girin.</translation>
     </message>
     <message>
-        <source>Valid until</source>
+        <source>Link valid until</source>
         <translation>Geçerlilik sonu</translation>
     </message>
     <message>
@@ -1176,7 +1172,7 @@
         <translation>İzin verilen indirme sayısı</translation>
     </message>
     <message>
-        <source>%1 downloads left</source>
+        <source>Downloads left: %1</source>
         <translation>%1 indirme hakkı kaldı</translation>
     </message>
     <message>
@@ -1324,7 +1320,7 @@
         <translation>Çakışan kopyaları sil</translation>
     </message>
     <message>
-        <source>Do you want to delete %1 conflicted copies? They cannot be brought back.</source>
+        <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
         <translation>%1 çakışan kopyayı silmek istiyor musunuz? Geri getirilemezler.</translation>
     </message>
     <message>
@@ -1440,11 +1436,11 @@
         <translation>Sunucular aranıyor...</translation>
     </message>
     <message>
-        <source>No server was found on this network. Enter its address yourself.</source>
+        <source>No server was found on this network. Enter the server address yourself.</source>
         <translation>Bu ağda sunucu bulunamadı. Adresini kendiniz girin.</translation>
     </message>
     <message>
-        <source>%1 servers found</source>
+        <source>Servers found: %1</source>
         <translation>%1 sunucu bulundu</translation>
     </message>
     <message>
@@ -1484,7 +1480,7 @@
         <translation>Corvimo Server bu sunucuda yüklü değil veya çalışmıyor.</translation>
     </message>
     <message>
-        <source>The server is being maintained. Syncing continues when it is back.</source>
+        <source>The server is down for maintenance. Syncing continues when it is available again.</source>
         <translation>Sunucuda bakım yapılıyor. Sunucu geri döndüğünde eşitleme sürecek.</translation>
     </message>
     <message>
@@ -1504,7 +1500,7 @@
         <translation>Bu bilgisayar çok fazla başarısız denemeden sonra engellendi. Yöneticiden engeli kaldırmasını isteyin.</translation>
     </message>
     <message>
-        <source>A firewall may be blocking Corvimo Client. Allow it to use port %1.</source>
+        <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
         <translation>Bir güvenlik duvarı Corvimo Client uygulamasını engelliyor olabilir. Şu bağlantı noktasını kullanmasına izin verin: %1.</translation>
     </message>
     <message>
@@ -1528,7 +1524,7 @@
         <translation>%1 ile bağlantıyı kaldırmak istiyor musunuz? Eşitleme görevleri silinir ancak dosyalarınız kalır.</translation>
     </message>
     <message>
-        <source>%1 files have not been uploaded yet.</source>
+        <source>Files not uploaded yet: %1.</source>
         <translation>%1 dosya henüz karşıya yüklenmedi.</translation>
     </message>
     <message>
@@ -1656,7 +1652,7 @@
         <translation>%1 sertifikası daha önce kullanılanla aynı değil. Yenilenip yenilenmediğini yöneticiye sorun.</translation>
     </message>
     <message>
-        <source>The certificate uses an algorithm that is no longer considered safe.</source>
+        <source>The certificate uses an algorithm that is no longer considered secure.</source>
         <translation>Sertifika, artık güvenli sayılmayan bir algoritma kullanıyor.</translation>
     </message>
     <message>
@@ -1690,6 +1686,10 @@
     <message>
         <source>Valid from</source>
         <translation>Geçerlilik başlangıcı</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>Geçerlilik sonu</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1776,15 +1776,15 @@
         <translation>Çöp sepetini boşaltmak istiyor musunuz? İçindeki dosyalar geri getirilemez.</translation>
     </message>
     <message>
-        <source>The trash was emptied. %1 are free again.</source>
+        <source>The trash was emptied. %1 is free again.</source>
         <translation>Çöp sepeti boşaltıldı. Açılan yer: %1.</translation>
     </message>
     <message>
-        <source>Please wait...</source>
+        <source>Calculating...</source>
         <translation>Lütfen bekleyin...</translation>
     </message>
     <message>
-        <source>Your storage is almost full. Only %1 are left.</source>
+        <source>Your storage is almost full. Only %1 is left.</source>
         <translation>Depolama alanınız neredeyse dolu. Yalnızca %1 kaldı.</translation>
     </message>
     <message>
@@ -1812,12 +1812,12 @@
         <translation>Disk alanı az</translation>
     </message>
     <message>
-        <source>Only %1 are left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
+        <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
         <translation>“%2” diskinde yalnızca %1 kaldı. Disk dolduğunda eşitleme durur.</translation>
     </message>
     <message>
-        <source>The disk is full</source>
-        <translation>Disk dolu</translation>
+        <source>Not enough disk space</source>
+        <translation>Yeterli disk alanı yok</translation>
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
@@ -1848,7 +1848,7 @@
         <translation>“%1” klasörünün bulunduğu disk bağlı değil. Eşitlemeyi sürdürmek için diski bağlayın.</translation>
     </message>
     <message>
-        <source>The disk &quot;%1&quot; is read only. Changes from Corvimo Server cannot be saved on it.</source>
+        <source>The disk &quot;%1&quot; is read-only. Changes from Corvimo Server cannot be saved on it.</source>
         <translation>“%1” diski salt okunur. Corvimo Server sunucusundaki değişiklikler bu diske kaydedilemez.</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Geçici dosyaları sil</translation>
     </message>
     <message>
-        <source>%1 of temporary files were deleted.</source>
+        <source>Temporary files were deleted (%1).</source>
         <translation>%1 geçici dosya silindi.</translation>
     </message>
     <message>
@@ -1984,15 +1984,15 @@
         <translation>%1 başlıyor...</translation>
     </message>
     <message>
-        <source>Your settings are being taken over from the earlier version.</source>
+        <source>Your settings are being imported from the earlier version.</source>
         <translation>Ayarlarınız önceki sürümden aktarılıyor.</translation>
     </message>
     <message>
-        <source>Your settings were taken over. You can continue where you left off.</source>
+        <source>Your settings were imported. You can continue where you left off.</source>
         <translation>Ayarlarınız aktarıldı. Kaldığınız yerden devam edebilirsiniz.</translation>
     </message>
     <message>
-        <source>Some settings of the earlier version could not be taken over. Please check your sync tasks.</source>
+        <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
         <translation>Önceki sürümün bazı ayarları aktarılamadı. Lütfen eşitleme görevlerinizi denetleyin.</translation>
     </message>
     <message>
@@ -2204,7 +2204,7 @@
         <translation>Bildiriminiz yok.</translation>
     </message>
     <message>
-        <source>%1 new notifications</source>
+        <source>New notifications: %1</source>
         <translation>%1 yeni bildirim</translation>
     </message>
     <message>
@@ -2212,7 +2212,7 @@
         <translation>Tüm dosyalar güncel.</translation>
     </message>
     <message>
-        <source>The first sync is complete. %1 files are now on this computer.</source>
+        <source>The first sync is complete. Files now on this computer: %1.</source>
         <translation>İlk eşitleme tamamlandı. %1 dosya artık bu bilgisayarda.</translation>
     </message>
     <message>
@@ -2244,7 +2244,7 @@
         <translation>Bu dosyalar eşitlenemedi. Corvimo Client, neden ortadan kalktığında yeniden deneyecek.</translation>
     </message>
     <message>
-        <source>%1 problems</source>
+        <source>Problems: %1</source>
         <translation>%1 sorun</translation>
     </message>
     <message>
@@ -2264,7 +2264,7 @@
         <translation>Saat</translation>
     </message>
     <message>
-        <source>Try all again</source>
+        <source>Retry all</source>
         <translation>Tümünü yeniden dene</translation>
     </message>
     <message>
@@ -2304,7 +2304,7 @@
         <translation>Dosya karşıya yüklenirken değişti. Yeniden yüklenecek.</translation>
     </message>
     <message>
-        <source>The file was damaged on the way. It will be transferred again.</source>
+        <source>The file was damaged during the transfer. It will be transferred again.</source>
         <translation>Dosya yolda hasar gördü. Yeniden aktarılacak.</translation>
     </message>
     <message>
@@ -2312,7 +2312,7 @@
         <translation>Dosya okunamıyor. İzinlerini denetleyin.</translation>
     </message>
     <message>
-        <source>The file cannot be written. Check its permissions.</source>
+        <source>The file cannot be written to. Check its permissions.</source>
         <translation>Dosyaya yazılamıyor. İzinlerini denetleyin.</translation>
     </message>
     <message>
@@ -2428,10 +2428,6 @@
         <translation>Corvimo Server şu anda değişiklik kabul etmiyor.</translation>
     </message>
     <message>
-        <source>The disk of Corvimo Server is full.</source>
-        <translation>Corvimo Server diski dolu.</translation>
-    </message>
-    <message>
         <source>The volume with this folder is not available on Corvimo Server.</source>
         <translation>Bu klasörün bulunduğu birim Corvimo Server sunucusunda kullanılamıyor.</translation>
     </message>
@@ -2448,12 +2444,8 @@
         <translation>Sunucu, Corvimo Client uygulamasının anlamadığı bir yanıt gönderdi.</translation>
     </message>
     <message>
-        <source>Your session has ended. Please sign in again.</source>
+        <source>Your session has ended. Sign in again.</source>
         <translation>Oturumunuz sona erdi. Lütfen yeniden oturum açın.</translation>
-    </message>
-    <message>
-        <source>Too many requests were sent to the server. Syncing continues soon.</source>
-        <translation>Sunucuya çok fazla istek gönderildi. Eşitleme birazdan sürecek.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2504,10 +2496,6 @@
         <translation>Dosyalar yazılırken disk çıkarıldı.</translation>
     </message>
     <message>
-        <source>Not enough disk space</source>
-        <translation>Yeterli disk alanı yok</translation>
-    </message>
-    <message>
         <source>Not enough memory. Close other programs and try again.</source>
         <translation>Yeterli bellek yok. Diğer programları kapatıp yeniden deneyin.</translation>
     </message>
@@ -2540,7 +2528,7 @@
         <translation>Sistem çok fazla klasörü izlediği için bazı klasörlerdeki değişiklikler geç fark edilebilir.</translation>
     </message>
     <message>
-        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Please set it right.</source>
+        <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
         <translation>Bu bilgisayarın saati ile sunucunun saati arasında %1 dakikadan fazla fark var. Lütfen saati doğru ayarlayın.</translation>
     </message>
     <message>
@@ -2548,7 +2536,7 @@
         <translation>Bu işlem Corvimo Server tarafından desteklenmiyor.</translation>
     </message>
     <message>
-        <source>The action was cancelled.</source>
+        <source>The action was canceled.</source>
         <translation>İşlem iptal edildi.</translation>
     </message>
     <message>
@@ -2572,7 +2560,7 @@
         <translation>Corvimo Client uygulamasının bir bileşeni eksik. İstemciyi yeniden yükleyin.</translation>
     </message>
     <message>
-        <source>The status icons cannot be shown because other programs use all places for them.</source>
+        <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
         <translation>Durum simgeleri gösterilemiyor çünkü bunlara ayrılan tüm yerleri başka programlar kullanıyor.</translation>
     </message>
     <message>
@@ -2584,7 +2572,7 @@
         <translation>Sorun sürerse Corvimo Client uygulamasını yeniden başlatın.</translation>
     </message>
     <message>
-        <source>If the problem remains, ask the administrator of Corvimo Server.</source>
+        <source>If the problem remains, ask the administrator.</source>
         <translation>Sorun sürerse Corvimo Server yöneticisine başvurun.</translation>
     </message>
     <message>
@@ -2652,7 +2640,7 @@
         <translation>Etki alanı</translation>
     </message>
     <message>
-        <source>Enter your name as domain\user if your account belongs to a domain.</source>
+        <source>Enter your user name as domain\user if your account belongs to a domain.</source>
         <translation>Hesabınız bir etki alanına aitse adınızı etkialanı\kullanıcı biçiminde girin.</translation>
     </message>
     <message>
@@ -2676,6 +2664,10 @@
         <translation>E-posta adresi</translation>
     </message>
     <message>
+        <source>Full name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
         <source>Change password</source>
         <translation>Parolayı değiştir</translation>
     </message>
@@ -2696,11 +2688,11 @@
         <translation>Parolanız değiştirildi.</translation>
     </message>
     <message>
-        <source>The administrator asks you to change your password.</source>
+        <source>The administrator requires you to change your password.</source>
         <translation>Yönetici parolanızı değiştirmenizi istiyor.</translation>
     </message>
     <message>
-        <source>Your password expires in %1 days.</source>
+        <source>Days until your password expires: %1.</source>
         <translation>Parolanızın süresi %1 gün içinde dolacak.</translation>
     </message>
     <message>
@@ -2724,7 +2716,7 @@
         <translation>Kullanıcı adı veya parola yanlış.</translation>
     </message>
     <message>
-        <source>The user name or the password is wrong. You can try %1 more times.</source>
+        <source>The user name or the password is wrong. Attempts left: %1.</source>
         <translation>Kullanıcı adı veya parola yanlış. %1 kez daha deneyebilirsiniz.</translation>
     </message>
     <message>
@@ -2760,7 +2752,7 @@
         <translation>Bu bilgisayarın adı</translation>
     </message>
     <message>
-        <source>Connected devices</source>
+        <source>Linked devices</source>
         <translation>Bağlı aygıtlar</translation>
     </message>
     <message>
@@ -2808,7 +2800,7 @@
         <translation>Bu aygıta güven</translation>
     </message>
     <message>
-        <source>Do not ask again on this computer for %1 days</source>
+        <source>Do not ask again on this computer for this many days: %1</source>
         <translation>Bu bilgisayarda %1 gün boyunca yeniden sorma</translation>
     </message>
     <message>
@@ -2836,7 +2828,7 @@
         <translation>Not ettiğiniz kurtarma kodlarından birini girin. Her kod bir kez kullanılabilir.</translation>
     </message>
     <message>
-        <source>You have %1 recovery codes left.</source>
+        <source>Recovery codes left: %1.</source>
         <translation>%1 kurtarma kodunuz kaldı.</translation>
     </message>
     <message>
@@ -2892,7 +2884,7 @@
         <translation>Bu kod daha önce kullanıldı. Bir sonrakini bekleyin.</translation>
     </message>
     <message>
-        <source>Too many wrong codes. Wait %1 minutes and try again.</source>
+        <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
         <translation>Çok fazla yanlış kod girildi. %1 dakika bekleyip yeniden deneyin.</translation>
     </message>
     <message>
@@ -2912,7 +2904,11 @@
         <translation>İki adımlı oturum açma etkin.</translation>
     </message>
     <message>
-        <source>A backup task copies folders of this computer to Corvimo Server and keeps earlier versions.</source>
+        <source>Backup tasks</source>
+        <translation>Yedekleme görevleri</translation>
+    </message>
+    <message>
+        <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
         <translation>Yedekleme görevi, bu bilgisayarın klasörlerini Corvimo Server sunucusuna kopyalar ve önceki sürümleri tutar.</translation>
     </message>
     <message>
@@ -2962,6 +2958,22 @@
     <message>
         <source>Desktop</source>
         <translation>Masaüstü</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Belgeler</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Resimler</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Müzik</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videolar</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3044,7 +3056,7 @@
         <translation>Yedekleniyor...</translation>
     </message>
     <message>
-        <source>Backing up, %1 of %2 files</source>
+        <source>Backing up files: %1 of %2</source>
         <translation>Yedekleniyor, %1 / %2 dosya</translation>
     </message>
     <message>
@@ -3064,7 +3076,7 @@
         <translation>Henüz yedeklenmedi</translation>
     </message>
     <message>
-        <source>The backup is complete, but %1 files could not be read.</source>
+        <source>The backup is complete. Files that could not be read: %1.</source>
         <translation>Yedekleme tamamlandı ancak %1 dosya okunamadı.</translation>
     </message>
     <message>
@@ -3072,11 +3084,11 @@
         <translation>Yedekleme başarısız oldu: %1</translation>
     </message>
     <message>
-        <source>The backup planned for %1 was missed. It starts now.</source>
+        <source>The backup scheduled for %1 was missed. It starts now.</source>
         <translation>%1 için planlanan yedekleme kaçırıldı. Şimdi başlıyor.</translation>
     </message>
     <message>
-        <source>This computer has not been backed up for %1 days.</source>
+        <source>Days since the last backup of this computer: %1.</source>
         <translation>Bu bilgisayar %1 gündür yedeklenmedi.</translation>
     </message>
     <message>
@@ -3088,11 +3100,11 @@
         <translation>Tüm sürümleri tut</translation>
     </message>
     <message>
-        <source>Keep the last %1 versions</source>
+        <source>Number of versions to keep: %1</source>
         <translation>Son %1 sürümü tut</translation>
     </message>
     <message>
-        <source>Keep versions for %1 days</source>
+        <source>Days to keep versions: %1</source>
         <translation>Sürümleri %1 gün tut</translation>
     </message>
     <message>
@@ -3120,11 +3132,11 @@
         <translation>Dosyaları geri yükle</translation>
     </message>
     <message>
-        <source>Choose the files to restore and a place to put them.</source>
+        <source>Choose the files to restore and where to put them.</source>
         <translation>Geri yüklenecek dosyaları ve konulacakları yeri seçin.</translation>
     </message>
     <message>
-        <source>Restore to the original place</source>
+        <source>Restore to the original location</source>
         <translation>Özgün yerine geri yükle</translation>
     </message>
     <message>
@@ -3132,7 +3144,7 @@
         <translation>Var olan dosyaların üzerine yaz</translation>
     </message>
     <message>
-        <source>Restoring %1 of %2 files</source>
+        <source>Restoring files: %1 of %2</source>
         <translation>%1 / %2 dosya geri yükleniyor</translation>
     </message>
     <message>
@@ -3140,15 +3152,19 @@
         <translation>Tüm dosyalar geri yüklendi.</translation>
     </message>
     <message>
-        <source>%1 files were restored, %2 files could not be restored.</source>
+        <source>Files restored: %1. Files that could not be restored: %2.</source>
         <translation>%1 dosya geri yüklendi, %2 dosya geri yüklenemedi.</translation>
+    </message>
+    <message>
+        <source>Verify backup</source>
+        <translation>Doğrula</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
         <translation>Yedek sağlam.</translation>
     </message>
     <message>
-        <source>%1 files in the backup are damaged. They will be backed up again.</source>
+        <source>Damaged files in the backup: %1. They will be backed up again.</source>
         <translation>Yedekteki %1 dosya hasarlı. Yeniden yedeklenecekler.</translation>
     </message>
     <message>
@@ -3210,14 +3226,6 @@
     <message>
         <source>Thank you for using Corvimo Client.</source>
         <translation>Corvimo Client uygulamasını kullandığınız için teşekkür ederiz.</translation>
-    </message>
-    <message>
-        <source>Copy version information</source>
-        <translation>Sürüm bilgilerini kopyala</translation>
-    </message>
-    <message>
-        <source>The version information was copied to the clipboard.</source>
-        <translation>Sürüm bilgileri panoya kopyalandı.</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -3352,15 +3360,11 @@
         <translation>Çok sayıda dosya silinmeden önce beni uyar</translation>
     </message>
     <message>
-        <source>Reset settings</source>
-        <translation>Ayarları sıfırla</translation>
-    </message>
-    <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
         <translation>Tüm ayarları sıfırlamak istiyor musunuz? Eşitleme görevleriniz olduğu gibi kalır.</translation>
     </message>
     <message>
-        <source>This setting is managed by your administrator.</source>
+        <source>This setting is managed by the administrator.</source>
         <translation>Bu ayar yöneticiniz tarafından yönetiliyor.</translation>
     </message>
     <message>
@@ -3384,11 +3388,11 @@
         <translation>Tüm dosyalar bu bilgisayarda listelenir ancak bir dosya yalnızca siz açtığınızda indirilir.</translation>
     </message>
     <message>
-        <source>Turn on on-demand files</source>
+        <source>Use on-demand files</source>
         <translation>İsteğe bağlı dosyaları aç</translation>
     </message>
     <message>
-        <source>Do you want to turn on on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
+        <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
         <translation>“%1” için isteğe bağlı dosyaları açmak istiyor musunuz? Zaten bu bilgisayarda olan dosyalar burada kalır.</translation>
     </message>
     <message>
@@ -3404,7 +3408,7 @@
         <translation>İsteğe bağlı dosyaları kapatmak istiyor musunuz? Bu klasörün tüm dosyaları indirilecek (%1).</translation>
     </message>
     <message>
-        <source>There is not enough space to download all files. %1 more are needed.</source>
+        <source>There is not enough space to download all files. %1 more is needed.</source>
         <translation>Tüm dosyaları indirmek için yeterli yer yok. %1 daha gerekiyor.</translation>
     </message>
     <message>
@@ -3420,11 +3424,11 @@
         <translation>Kısmen bu bilgisayarda</translation>
     </message>
     <message>
-        <source>%1 files will be available online only. Do you want to continue?</source>
+        <source>Files that will be available online only: %1. Do you want to continue?</source>
         <translation>%1 dosya yalnızca çevrimiçi olarak kullanılabilecek. Devam etmek istiyor musunuz?</translation>
     </message>
     <message>
-        <source>%1 of disk space were freed.</source>
+        <source>%1 of disk space was freed.</source>
         <translation>%1 disk alanı açıldı.</translation>
     </message>
     <message>
@@ -3440,7 +3444,7 @@
         <translation>Otomatik olarak yer aç</translation>
     </message>
     <message>
-        <source>Files not opened for %1 days become online only</source>
+        <source>Make files online only when they have not been opened for this many days: %1</source>
         <translation>%1 gün açılmayan dosyalar yalnızca çevrimiçi olsun</translation>
     </message>
     <message>
@@ -3552,7 +3556,7 @@
         <translation>Bu bilgisayarda olmasını istediğiniz ekip klasörlerini seçin.</translation>
     </message>
     <message>
-        <source>You are not a member of a team folder.</source>
+        <source>You are not a member of any team folder.</source>
         <translation>Hiçbir ekip klasörünün üyesi değilsiniz.</translation>
     </message>
     <message>
@@ -3564,16 +3568,8 @@
         <translation>Tüm dosyaları eşitle</translation>
     </message>
     <message>
-        <source>Choose folders</source>
-        <translation>Klasörleri seç</translation>
-    </message>
-    <message>
         <source>Corvimo Client needs your permission to show notifications and to read your folders.</source>
         <translation>Corvimo Client, bildirim göstermek ve klasörlerinizi okumak için izninize gerek duyuyor.</translation>
-    </message>
-    <message>
-        <source>Open privacy settings</source>
-        <translation>Gizlilik ayarlarını aç</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -3584,7 +3580,7 @@
         <translation>Başlamadan önce seçimlerinizi denetleyin.</translation>
     </message>
     <message>
-        <source>%1 files (%2) will be downloaded.</source>
+        <source>Files to download: %1 (%2).</source>
         <translation>%1 dosya (%2) indirilecek.</translation>
     </message>
     <message>
@@ -3592,7 +3588,7 @@
         <translation>Her şey hazır</translation>
     </message>
     <message>
-        <source>Corvimo Client is now syncing your files. You find it in the menu bar.</source>
+        <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
         <translation>Corvimo Client şimdi dosyalarınızı eşitliyor. Uygulamayı menü çubuğunda bulabilirsiniz.</translation>
     </message>
     <message>
@@ -3612,7 +3608,7 @@
         <translation>Dosyalarınızdaki simgeler eşitlenip eşitlenmediklerini gösterir.</translation>
     </message>
     <message>
-        <source>Do you want to leave the setup? You can continue later.</source>
+        <source>Do you want to quit the setup? You can continue later.</source>
         <translation>Ayarlamadan çıkmak istiyor musunuz? Daha sonra devam edebilirsiniz.</translation>
     </message>
     <message>
@@ -3620,7 +3616,7 @@
         <translation>Önceki bir kurulumun ayarları bulundu. Bunları kullanmak istiyor musunuz?</translation>
     </message>
     <message>
-        <source>%1 bytes</source>
+        <source>%1 B</source>
         <translation>%1 bayt</translation>
     </message>
     <message>
@@ -3668,7 +3664,7 @@
         <translation>%1 klasör</translation>
     </message>
     <message>
-        <source>%1 items</source>
+        <source>Items: %1</source>
         <translation>%1 öğe</translation>
     </message>
     <message>
@@ -3676,7 +3672,7 @@
         <translation>%1 / %2</translation>
     </message>
     <message>
-        <source>%1 files, %2 folders</source>
+        <source>Files: %1, folders: %2</source>
         <translation>%1 dosya, %2 klasör</translation>
     </message>
     <message>
@@ -3740,31 +3736,31 @@
         <translation>Geçen ay</translation>
     </message>
     <message>
-        <source>%1 seconds</source>
+        <source>%1 s</source>
         <translation>%1 saniye</translation>
     </message>
     <message>
-        <source>%1 minutes</source>
+        <source>%1 min</source>
         <translation>%1 dakika</translation>
     </message>
     <message>
-        <source>%1 hours</source>
+        <source>%1 h</source>
         <translation>%1 saat</translation>
     </message>
     <message>
-        <source>%1 days</source>
+        <source>%1 d</source>
         <translation>%1 gün</translation>
     </message>
     <message>
-        <source>%1 seconds left</source>
+        <source>%1 s left</source>
         <translation>%1 saniye kaldı</translation>
     </message>
     <message>
-        <source>%1 minutes left</source>
+        <source>%1 min left</source>
         <translation>%1 dakika kaldı</translation>
     </message>
     <message>
-        <source>%1 hours left</source>
+        <source>%1 h left</source>
         <translation>%1 saat kaldı</translation>
     </message>
     <message>
@@ -3810,6 +3806,10 @@
     <message>
         <source>Do not show this message again</source>
         <translation>Bu iletiyi bir daha gösterme</translation>
+    </message>
+    <message>
+        <source>Please wait...</source>
+        <translation>Lütfen bekleyin...</translation>
     </message>
 </context>
 </TS>
