@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Turns the catalogue of user-interface texts into what the build compiles.
+"""Turns the catalogue of user-interface texts into what the build compiles, and checks their terms.
 
 generate-texts.py rows CATALOGUE OUT.inc
     writes one C++ initialiser {"key", "English text"}, per row, in id order.
@@ -10,16 +10,23 @@ generate-texts.py ts CATALOGUE OUT.ts [TRANSLATION.ts]
     come from TRANSLATION.ts; a text that it lacks stays English and is marked unfinished. A translation
     of a text that the catalogue no longer has is left out, with a warning if it was finished. Without
     TRANSLATION.ts every text is its own, finished, translation.
+generate-texts.py check FOLDER [CODE]...
+    reports each text with a word that its language's glossary rules out; the exit status is then 1.
+    FOLDER holds catalogue.txt, translations/CODE.ts and glossary/CODE.md. Without CODE all languages
+    are checked.
 
 A malformed input is reported with its line; the exit status is then 1 and nothing is written.
 """
 
+import pathlib
 import re
 import sys
 import xml.etree.ElementTree as ElementTree
 from xml.sax.saxutils import escape
 
 ROW = re.compile(r'([A-Za-z]\w*) = "(.*)"', re.ASCII)
+GLOSSARY_ROW = re.compile(r"\|([^|]+)\|([^|]*)\|([^|]*)\|")
+GLOSSARY_HEAD = ["| Term | Use | Not |", "|---|---|---|"]
 TS_HEAD = """<?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="{}" sourcelanguage="en">
@@ -69,6 +76,69 @@ def read_translation(path):
     return root.get("language", ""), messages
 
 
+def read_glossary(path):
+    """The rules as (term, what to use, words that are ruled out), the longest term first."""
+    rules = {}
+    try:
+        with open(path, encoding="utf-8") as file:
+            lines = file.read().splitlines()
+    except (OSError, UnicodeDecodeError) as error:
+        sys.exit(f"{path}: error: {error}")
+    for number, line in enumerate(lines, 1):
+        if not line.startswith("|") or line in GLOSSARY_HEAD:
+            continue
+        row = GLOSSARY_ROW.fullmatch(line)
+        if not row:
+            sys.exit(f"{path}:{number}: error: expected: | Term | Use | Not |")
+        for term in words(row[1]):
+            if term.lower() in rules:
+                sys.exit(f"{path}:{number}: error: the term {term} is already in the table")
+            rules[term.lower()] = (term, row[2].strip(" "), words(row[3]))
+    return sorted(rules.values(), key=lambda rule: len(rule[0]), reverse=True)
+
+
+def words(cell):
+    """The words of a cell. Only plain spaces are cut off: a word may begin with a non-breaking one."""
+    return [word.strip(" ") for word in cell.split(";") if word.strip(" ")]
+
+
+def fold(text):
+    """The text without regard to case. Python makes two characters of the small form of U+0130."""
+    return text.replace("\u0130", "i").lower()
+
+
+def broken_rules(rules, text, translation):
+    """The broken rules as (term, what to use, the word). The longest term wins at its place."""
+    for term, use, ruled_out in rules:
+        if term != "*":
+            pattern = rf"(?<!\w){re.escape(term)}(e?s)?(?!\w)"
+            text, found = re.subn(pattern, "\0", text, flags=re.IGNORECASE)
+            if not found:
+                continue
+        for word in ruled_out:
+            if fold(word) in fold(translation):
+                yield term, use, word
+
+
+def check(folder, *codes):
+    """The lines that report the broken rules of some languages, or of all."""
+    folder = pathlib.Path(folder)
+    texts = dict.fromkeys(text for _, text in read_catalogue(folder / "catalogue.txt"))
+    files = {file.stem: file for file in sorted(folder.glob("translations/*.ts"))}
+    lines = []
+    for code in codes or ["enu", *files]:
+        rules = read_glossary(folder / f"glossary/{code}.md")
+        messages = {text: (text, True) for text in texts}
+        if code in files:
+            messages = read_translation(files[code])[1]
+        for text in filter(messages.get, texts):
+            translation = messages[text][0]
+            for term, use, word in broken_rules(rules, text, translation):
+                advice = f'for "{term}" the glossary has "{use}", not "{word}"'
+                lines.append(f'{code}: "{text}" is "{translation}": {advice}')
+    return lines
+
+
 def rows_source(rows):
     def literal(text):
         return text.replace("\\", "\\\\").replace('"', '\\"')
@@ -105,6 +175,8 @@ def translated(rows, path=None):
 
 def main():
     sources = {"rows": rows_source, "count": count_source, "ts": translated}
+    if len(sys.argv) > 2 and sys.argv[1] == "check":
+        sys.exit("\n".join(check(*sys.argv[2:])) or None)
     if len(sys.argv) not in (4, 5) or sys.argv[1] not in sources:
         sys.exit(__doc__)
     command, catalogue, out_path, *translation = sys.argv[1:]
