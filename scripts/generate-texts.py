@@ -12,8 +12,8 @@ generate-texts.py ts CATALOGUE OUT.ts [TRANSLATION.ts]
     TRANSLATION.ts every text is its own, finished, translation.
 generate-texts.py check FOLDER [CODE]...
     reports each text with a word that its language's glossary rules out; the exit status is then 1.
-    FOLDER holds catalogue.txt, translations/CODE.ts and glossary/CODE.md. Without CODE all languages
-    are checked.
+    FOLDER holds catalogue.txt, translations/CODE.ts and glossary/CODE.md. Without CODE all
+    languages are checked.
 
 A malformed input is reported with its line; the exit status is then 1 and nothing is written.
 """
@@ -98,12 +98,12 @@ def read_glossary(path):
 
 
 def words(cell):
-    """The words of a cell. Only plain spaces are cut off: a word may begin with a non-breaking one."""
+    """The words of a cell. A non-breaking space belongs to its word."""
     return [word.strip(" ") for word in cell.split(";") if word.strip(" ")]
 
 
 def fold(text):
-    """The text without regard to case. Python makes two characters of the small form of U+0130."""
+    """The text in small letters. Of U+0130, lower() would make two characters."""
     return text.replace("\u0130", "i").lower()
 
 

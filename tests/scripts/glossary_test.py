@@ -7,7 +7,7 @@ import tempfile
 import unittest
 
 GENERATE_TEXTS = pathlib.Path(__file__).parents[2] / "scripts/generate-texts.py"
-GLOSSARY = "| Term | Use | Not |\n| Lid | | x; Y |\n| lid of a box; box | | z |\n| * | | ik |\nA | x"
+GLOSSARY = "Title\n| Lid | | x; Y |\n| lid of a box; box | | z |\n| * | | ik |\nA | x"
 TEXTS = {"A lid": "Ax", "Boxes, LIDS": "y Z", "A lid of a box": "x", "Boxer": "z", "A": "xİk"}
 REPORTS = [("A lid", "Lid"), ("Boxes, LIDS", "Lid"), ("Boxes, LIDS", "box"), ("A", "*")]
 MESSAGE = "<message><source>{}</source><translation>{}</translation></message>"
