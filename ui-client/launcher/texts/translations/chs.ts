@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>File added: </source>
-        <translation>已添加文件: </translation>
+        <translation>已添加文件： </translation>
     </message>
     <message>
         <source>Change folder</source>
@@ -45,23 +45,23 @@
     </message>
     <message>
         <source>File changed: </source>
-        <translation>已更改文件: </translation>
+        <translation>已更改文件： </translation>
     </message>
     <message>
         <source>File deleted: </source>
-        <translation>已删除文件: </translation>
+        <translation>已删除文件： </translation>
     </message>
     <message>
         <source>File renamed: </source>
-        <translation>已重命名文件: </translation>
+        <translation>已重命名文件： </translation>
     </message>
     <message>
         <source>Folder added: </source>
-        <translation>已添加文件夹: </translation>
+        <translation>已添加文件夹： </translation>
     </message>
     <message>
         <source>Folder deleted: </source>
-        <translation>已删除文件夹: </translation>
+        <translation>已删除文件夹： </translation>
     </message>
     <message>
         <source>Recently changed files</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Your attention is needed</source>
-        <translation>需要您的处理</translation>
+        <translation>需要您处理</translation>
     </message>
     <message>
         <source>Some files could not be synced.</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>同步任务</translation>
+        <translation>同步</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>备份任务</translation>
+        <translation>备份</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>因筛选条件未同步</translation>
+        <translation>已被筛选条件排除</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,7 +825,7 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>文稿</translation>
+        <translation>文档</translation>
     </message>
     <message>
         <source>Picture files</source>
@@ -933,7 +933,7 @@
     </message>
     <message>
         <source>Protected from automatic deletion</source>
-        <translation>已防止自动删除</translation>
+        <translation>受保护，不会被自动删除</translation>
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>此文件夹的版本历史记录已关闭。请联系 Corvimo Server 的管理员将其开启。</translation>
+        <translation>此文件夹的版本历史记录已关闭。请联系管理员将其开启。</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>Enter a name or an email address</source>
-        <translation>输入名称或电子邮件地址</translation>
+        <translation>输入姓名或电子邮件地址</translation>
     </message>
     <message>
         <source>Send invitation</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>有效期至</translation>
+        <translation>链接有效期至</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Changed by %1 on %2</source>
-        <translation>%1 更改于 %2</translation>
+        <translation>由 %1 于 %2 更改</translation>
     </message>
     <message>
         <source>When a file was changed in two places</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>在此网络上未找到服务器。请手动输入地址。</translation>
+        <translation>在此网络上未找到服务器。请手动输入服务器地址。</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>防火墙可能阻止了 Corvimo Client。请允许它使用端口 %1。</translation>
+        <translation>防火墙可能阻止了 Corvimo Client。请允许 Corvimo Client 使用端口 %1。</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1653,7 +1653,7 @@
     </message>
     <message>
         <source>The certificate uses an algorithm that is no longer considered secure.</source>
-        <translation>证书使用的算法已不再安全。</translation>
+        <translation>证书使用的算法已不再被视为安全。</translation>
     </message>
     <message>
         <source>Trust this certificate</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>请稍候...</translation>
+        <translation>正在计算...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>已删除 %1 的临时文件。</translation>
+        <translation>已删除临时文件（%1）。</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1985,15 +1985,15 @@
     </message>
     <message>
         <source>Your settings are being imported from the earlier version.</source>
-        <translation>正在从早期版本迁移您的设置。</translation>
+        <translation>正在从旧版本导入您的设置。</translation>
     </message>
     <message>
         <source>Your settings were imported. You can continue where you left off.</source>
-        <translation>您的设置已迁移。您可以从上次中断的地方继续。</translation>
+        <translation>您的设置已导入。您可以从上次中断的地方继续。</translation>
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>早期版本的部分设置无法迁移。请检查您的同步任务。</translation>
+        <translation>旧版本的部分设置无法导入。请检查您的同步任务。</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2305,7 +2305,7 @@
     </message>
     <message>
         <source>The file was damaged during the transfer. It will be transferred again.</source>
-        <translation>文件在传输途中损坏。它将再次传输。</translation>
+        <translation>文件在传输过程中损坏。它将再次传输。</translation>
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
@@ -2485,7 +2485,7 @@
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>权限被拒绝</translation>
+        <translation>没有权限</translation>
     </message>
     <message>
         <source>The disk reported a read or write error. Check the disk for faults.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>此电脑的时钟与服务器的时钟相差超过 %1 分钟。请将其校准。</translation>
+        <translation>此电脑的时钟与服务器的时钟相差超过 %1 分钟。请校准此电脑的时钟。</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>如果问题仍然存在，请联系 Corvimo Server 的管理员。</translation>
+        <translation>如果问题仍然存在，请联系管理员。</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>如果您的账户属于某个域，请以“域\用户”的形式输入名称。</translation>
+        <translation>如果您的账户属于某个域，请以“域\用户”的形式输入用户名。</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>名称</translation>
+        <translation>姓名</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>已连接的设备</translation>
+        <translation>已关联的设备</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
-        <translation>备份任务会将此电脑的文件夹复制到 Corvimo Server，并保留早期版本。</translation>
+        <translation>备份任务会将此电脑的文件夹复制到 Corvimo Server，并保留以前的版本。</translation>
     </message>
     <message>
         <source>Create backup task</source>
@@ -3029,7 +3029,7 @@
     </message>
     <message>
         <source>On these days</source>
-        <translation>在以下日期</translation>
+        <translation>在每周的以下几天</translation>
     </message>
     <message>
         <source>When an external disk is connected</source>
@@ -3157,7 +3157,7 @@
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>验证</translation>
+        <translation>验证备份</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>此设置由您的管理员管理。</translation>
+        <translation>此设置由管理员管理。</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>开启按需文件</translation>
+        <translation>开启“按需文件”</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>要为“%1”开启按需文件吗？已在此电脑上的文件会保留。</translation>
+        <translation>要为“%1”开启“按需文件”吗？已在此电脑上的文件会保留。</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>按需文件已开启。</translation>
+        <translation>“按需文件”已开启。</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>关闭按需文件</translation>
+        <translation>关闭“按需文件”</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>要关闭按需文件吗？此文件夹的所有文件都将下载（%1）。</translation>
+        <translation>要关闭“按需文件”吗？此文件夹的所有文件都将下载（%1）。</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>此版本的系统不支持按需文件。</translation>
+        <translation>此版本的系统不支持“按需文件”。</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>此磁盘不支持按需文件。</translation>
+        <translation>此磁盘不支持“按需文件”。</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>请在系统设置中允许文件提供程序扩展，以使用按需文件。</translation>
+        <translation>请在系统设置中允许文件提供程序扩展，以使用“按需文件”。</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3609,11 +3609,11 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>要退出设置吗？您可以稍后继续。</translation>
+        <translation>要退出设置向导吗？您可以稍后继续。</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
-        <translation>找到了早期安装的设置。要使用这些设置吗？</translation>
+        <translation>找到了之前安装时的设置。要使用这些设置吗？</translation>
     </message>
     <message>
         <source>%1 B</source>

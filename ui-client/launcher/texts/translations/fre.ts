@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>%1 up, %2 down</source>
-        <translation>Envoi : %1, réception : %2</translation>
+        <translation>Envoi : %1, téléchargement : %2</translation>
     </message>
     <message>
         <source>Open</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Tâches de synchronisation</translation>
+        <translation>Synchronisation</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Tâches de sauvegarde</translation>
+        <translation>Sauvegarde</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>Change</source>
-        <translation>Modifier</translation>
+        <translation>Changer</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 fichiers comparés sur %2</translation>
+        <translation>Fichiers comparés : %1 sur %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -805,7 +805,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is already in the list.</source>
-        <translation>« %1 » figure déjà dans la liste.</translation>
+        <translation>« %1 » figure déjà dans la liste.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Previous version</source>
-        <translation>Version précédente</translation>
+        <translation>Version antérieure</translation>
     </message>
     <message>
         <source>Version</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server conserve jusqu&apos;à %1 versions d&apos;un fichier.</translation>
+        <translation>Nombre maximal de versions d&apos;un fichier conservées par Corvimo Server : %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>L&apos;historique des versions est désactivé pour ce dossier. Demandez à l&apos;administrateur de Corvimo Server de l&apos;activer.</translation>
+        <translation>L&apos;historique des versions est désactivé pour ce dossier. Demandez à l&apos;administrateur de l&apos;activer.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>Do you want to restore the selected items (%1)?</source>
-        <translation>Voulez-vous restaurer les %1 éléments sélectionnés ?</translation>
+        <translation>Voulez-vous restaurer les éléments sélectionnés (%1) ?</translation>
     </message>
     <message>
         <source>Items restored: %1.</source>
@@ -1053,7 +1053,7 @@
     </message>
     <message>
         <source>Can upload only</source>
-        <translation>Peut uniquement envoyer</translation>
+        <translation>Peut uniquement envoyer des fichiers</translation>
     </message>
     <message>
         <source>No access</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>L&apos;autorisation de %1 a été modifiée.</translation>
+        <translation>Les autorisations de %1 ont été modifiées.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Valable jusqu&apos;au</translation>
+        <translation>Lien valable jusqu&apos;au</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1181,7 +1181,7 @@
     </message>
     <message>
         <source>Allow uploading</source>
-        <translation>Autoriser l&apos;envoi</translation>
+        <translation>Autoriser l&apos;envoi de fichiers</translation>
     </message>
     <message>
         <source>The link could not be created. Try again later.</source>
@@ -1209,11 +1209,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; was changed in two places at the same time.</source>
-        <translation>« %1 » a été modifié à deux endroits en même temps.</translation>
+        <translation>« %1 » a été modifié des deux côtés en même temps.</translation>
     </message>
     <message>
         <source>%1 files were changed in two places at the same time.</source>
-        <translation>Fichiers modifiés à deux endroits en même temps : %1.</translation>
+        <translation>Fichiers modifiés des deux côtés en même temps : %1.</translation>
     </message>
     <message>
         <source>Choose which version to keep. The other one is saved as a conflicted copy.</source>
@@ -1261,7 +1261,7 @@
     </message>
     <message>
         <source>When a file was changed in two places</source>
-        <translation>Lorsqu&apos;un fichier a été modifié à deux endroits</translation>
+        <translation>Lorsqu&apos;un fichier a été modifié des deux côtés</translation>
     </message>
     <message>
         <source>Names that differ only in upper and lower case</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>Skip</source>
-        <translation>Ignorer</translation>
+        <translation>Passer</translation>
     </message>
     <message>
         <source>You deleted &quot;%1&quot;, but it was changed on Corvimo Server. The changed file was kept.</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Aucun serveur n&apos;a été trouvé sur ce réseau. Saisissez vous-même son adresse.</translation>
+        <translation>Aucun serveur n&apos;a été trouvé sur ce réseau. Saisissez vous-même l&apos;adresse du serveur.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>Le serveur est en maintenance. La synchronisation reprendra à son retour.</translation>
+        <translation>Le serveur est en maintenance. La synchronisation reprendra dès qu&apos;il sera de nouveau disponible.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Un pare-feu bloque peut-être Corvimo Client. Autorisez-le à utiliser le port %1.</translation>
+        <translation>Un pare-feu bloque peut-être Corvimo Client. Autorisez Corvimo Client à utiliser le port %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1633,7 +1633,7 @@
     </message>
     <message>
         <source>The certificate is not valid before %1. Check the clock of this computer.</source>
-        <translation>Le certificat n&apos;est pas valable avant le %1. Vérifiez l&apos;horloge de cet ordinateur.</translation>
+        <translation>Le certificat n&apos;est pas valide avant le %1. Vérifiez l&apos;horloge de cet ordinateur.</translation>
     </message>
     <message>
         <source>The certificate was issued for %1, not for %2.</source>
@@ -1685,11 +1685,11 @@
     </message>
     <message>
         <source>Valid from</source>
-        <translation>Valable à partir du</translation>
+        <translation>Valide à partir du</translation>
     </message>
     <message>
         <source>Valid until</source>
-        <translation>Valable jusqu&apos;au</translation>
+        <translation>Valide jusqu&apos;au</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1721,7 +1721,7 @@
     </message>
     <message>
         <source>The file does not contain a valid certificate.</source>
-        <translation>Le fichier ne contient pas de certificat valable.</translation>
+        <translation>Le fichier ne contient pas de certificat valide.</translation>
     </message>
     <message>
         <source>Do you want to remove the certificate of %1 from the trusted certificates?</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Veuillez patienter...</translation>
+        <translation>Calcul en cours...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1985,15 +1985,15 @@
     </message>
     <message>
         <source>Your settings are being imported from the earlier version.</source>
-        <translation>Vos réglages sont en cours de reprise depuis la version précédente.</translation>
+        <translation>Importation de vos réglages depuis la version précédente.</translation>
     </message>
     <message>
         <source>Your settings were imported. You can continue where you left off.</source>
-        <translation>Vos réglages ont été repris. Vous pouvez continuer là où vous en étiez.</translation>
+        <translation>Vos réglages ont été importés. Vous pouvez continuer là où vous en étiez.</translation>
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>Certains réglages de la version précédente n&apos;ont pas pu être repris. Veuillez vérifier vos tâches de synchronisation.</translation>
+        <translation>Certains réglages de la version précédente n&apos;ont pas pu être importés. Vérifiez vos tâches de synchronisation.</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2305,7 +2305,7 @@
     </message>
     <message>
         <source>The file was damaged during the transfer. It will be transferred again.</source>
-        <translation>Le fichier a été endommagé en cours de route. Il sera transféré à nouveau.</translation>
+        <translation>Le fichier a été endommagé pendant le transfert. Il sera transféré à nouveau.</translation>
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Le fichier ne peut pas être écrit. Vérifiez ses autorisations.</translation>
+        <translation>Impossible d&apos;écrire dans le fichier. Vérifiez ses autorisations.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2433,7 +2433,7 @@
     </message>
     <message>
         <source>The shared folder was removed from Corvimo Server.</source>
-        <translation>Le dossier partagé a été supprimé de Corvimo Server.</translation>
+        <translation>Le dossier partagé a été retiré de Corvimo Server.</translation>
     </message>
     <message>
         <source>Syncing was turned off for this shared folder.</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message>
         <source>Your session has ended. Sign in again.</source>
-        <translation>Votre session a pris fin. Veuillez vous reconnecter.</translation>
+        <translation>Votre session a pris fin. Reconnectez-vous.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>L&apos;horloge de cet ordinateur diffère de plus de %1 minutes de celle du serveur. Veuillez la régler.</translation>
+        <translation>L&apos;horloge de cet ordinateur diffère de plus de %1 minutes de celle du serveur. Réglez l&apos;heure de cet ordinateur.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Si le problème persiste, adressez-vous à l&apos;administrateur de Corvimo Server.</translation>
+        <translation>Si le problème persiste, adressez-vous à l&apos;administrateur.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2609,7 +2609,7 @@
     </message>
     <message>
         <source>Signing in...</source>
-        <translation>Ouverture de session...</translation>
+        <translation>Connexion au compte...</translation>
     </message>
     <message>
         <source>Signed in as %1</source>
@@ -2617,11 +2617,11 @@
     </message>
     <message>
         <source>You are signed out.</source>
-        <translation>Vous êtes déconnecté.</translation>
+        <translation>Vous êtes déconnecté de votre compte.</translation>
     </message>
     <message>
         <source>Do you want to sign out? Syncing stops until you sign in again.</source>
-        <translation>Voulez-vous vous déconnecter ? La synchronisation s&apos;arrête jusqu&apos;à votre prochaine connexion.</translation>
+        <translation>Voulez-vous vous déconnecter de votre compte ? La synchronisation s&apos;arrête jusqu&apos;à votre prochaine connexion.</translation>
     </message>
     <message>
         <source>Sign in with your browser</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Saisissez votre nom sous la forme domaine\utilisateur si votre compte appartient à un domaine.</translation>
+        <translation>Saisissez votre nom d&apos;utilisateur sous la forme domaine\utilisateur si votre compte appartient à un domaine.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2653,11 +2653,11 @@
     </message>
     <message>
         <source>Remove account</source>
-        <translation>Supprimer le compte</translation>
+        <translation>Retirer le compte</translation>
     </message>
     <message>
         <source>Do you want to remove the account %1 from this computer? Your files stay on this computer and on Corvimo Server.</source>
-        <translation>Voulez-vous supprimer le compte %1 de cet ordinateur ? Vos fichiers restent sur cet ordinateur et sur Corvimo Server.</translation>
+        <translation>Voulez-vous retirer le compte %1 de cet ordinateur ? Vos fichiers restent sur cet ordinateur et sur Corvimo Server.</translation>
     </message>
     <message>
         <source>Email address</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Nom</translation>
+        <translation>Nom complet</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>L&apos;administrateur vous demande de changer votre mot de passe.</translation>
+        <translation>L&apos;administrateur exige que vous changiez votre mot de passe.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Appareils connectés</translation>
+        <translation>Appareils associés</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Ne plus demander sur cet ordinateur pendant %1 jours</translation>
+        <translation>Ne plus demander sur cet ordinateur pendant ce nombre de jours : %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Sauvegarde, %1 fichiers sur %2</translation>
+        <translation>Sauvegarde des fichiers : %1 sur %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3085,11 +3085,11 @@
     </message>
     <message>
         <source>The backup scheduled for %1 was missed. It starts now.</source>
-        <translation>La sauvegarde prévue pour %1 n&apos;a pas eu lieu. Elle démarre maintenant.</translation>
+        <translation>La sauvegarde prévue le %1 n&apos;a pas eu lieu. Elle démarre maintenant.</translation>
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Cet ordinateur n&apos;a pas été sauvegardé depuis %1 jours.</translation>
+        <translation>Jours depuis la dernière sauvegarde de cet ordinateur : %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Conserver les %1 dernières versions</translation>
+        <translation>Nombre de versions à conserver : %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Conserver les versions pendant %1 jours</translation>
+        <translation>Nombre de jours de conservation des versions : %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3133,7 +3133,7 @@
     </message>
     <message>
         <source>Choose the files to restore and where to put them.</source>
-        <translation>Choisissez les fichiers à restaurer et un emplacement où les placer.</translation>
+        <translation>Choisissez les fichiers à restaurer et l&apos;emplacement où les placer.</translation>
     </message>
     <message>
         <source>Restore to the original location</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>Restauration de %1 fichiers sur %2</translation>
+        <translation>Restauration des fichiers : %1 sur %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>Fichiers restaurés : %1, fichiers qui n&apos;ont pas pu être restaurés : %2.</translation>
+        <translation>Fichiers restaurés : %1. Fichiers qui n&apos;ont pas pu être restaurés : %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Vérifier</translation>
+        <translation>Vérifier la sauvegarde</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Ce réglage est géré par votre administrateur.</translation>
+        <translation>Ce réglage est géré par l&apos;administrateur.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Activer les fichiers à la demande</translation>
+        <translation>Activer « Fichiers à la demande »</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Voulez-vous activer les fichiers à la demande pour « %1 » ? Les fichiers déjà présents sur cet ordinateur y restent.</translation>
+        <translation>Voulez-vous activer « Fichiers à la demande » pour « %1 » ? Les fichiers déjà présents sur cet ordinateur y restent.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Les fichiers à la demande sont activés.</translation>
+        <translation>« Fichiers à la demande » est activé.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Désactiver les fichiers à la demande</translation>
+        <translation>Désactiver « Fichiers à la demande »</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Voulez-vous désactiver les fichiers à la demande ? Tous les fichiers de ce dossier seront téléchargés (%1).</translation>
+        <translation>Voulez-vous désactiver « Fichiers à la demande » ? Tous les fichiers de ce dossier seront téléchargés (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Conserver en ligne uniquement les fichiers non ouverts depuis %1 jours</translation>
+        <translation>Conserver en ligne uniquement les fichiers non ouverts depuis ce nombre de jours : %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3457,7 +3457,7 @@
     </message>
     <message>
         <source>Block downloads by this program</source>
-        <translation>Bloquer les téléchargements de ce programme</translation>
+        <translation>Bloquer les téléchargements effectués par ce programme</translation>
     </message>
     <message>
         <source>A program is opening many online-only files. Do you want to allow it?</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Les fichiers à la demande ne sont pas pris en charge par cette version du système.</translation>
+        <translation>« Fichiers à la demande » n&apos;est pas pris en charge par cette version du système.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Les fichiers à la demande ne sont pas pris en charge sur ce disque.</translation>
+        <translation>« Fichiers à la demande » n&apos;est pas pris en charge sur ce disque.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Autorisez l&apos;extension de fournisseur de fichiers dans les réglages système pour utiliser les fichiers à la demande.</translation>
+        <translation>Autorisez l&apos;extension de fournisseur de fichiers dans les réglages système pour utiliser « Fichiers à la demande ».</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3617,7 +3617,7 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 octets</translation>
+        <translation>%1 o</translation>
     </message>
     <message>
         <source>%1 KB</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 éléments</translation>
+        <translation>Éléments : %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3749,19 +3749,19 @@
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 jours</translation>
+        <translation>%1 j</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>%1 s restantes</translation>
+        <translation>Temps restant : %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>%1 min restantes</translation>
+        <translation>Temps restant : %1 min</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>%1 h restantes</translation>
+        <translation>Temps restant : %1 h</translation>
     </message>
     <message>
         <source>Monday</source>

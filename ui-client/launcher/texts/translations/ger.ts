@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Synchronisierungsaufgaben</translation>
+        <translation>Synchronisierung</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Sicherungsaufgaben</translation>
+        <translation>Sicherung</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Syncing is paused. Changes will be synced when you resume.</source>
-        <translation>Die Synchronisierung ist angehalten. Änderungen werden synchronisiert, sobald Sie sie fortsetzen.</translation>
+        <translation>Die Synchronisierung ist angehalten. Änderungen werden nach dem Fortsetzen synchronisiert.</translation>
     </message>
     <message>
         <source>Clear list</source>
@@ -493,11 +493,11 @@
     </message>
     <message>
         <source>%1 was deleted from this computer.</source>
-        <translation>%1 wurde von diesem Computer gelöscht.</translation>
+        <translation>%1 wurde auf diesem Computer gelöscht.</translation>
     </message>
     <message>
         <source>%1 was deleted from Corvimo Server.</source>
-        <translation>%1 wurde von Corvimo Server gelöscht.</translation>
+        <translation>%1 wurde auf Corvimo Server gelöscht.</translation>
     </message>
     <message>
         <source>%1 was renamed to %2.</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>Der Ordner „%1“ konnte nicht erstellt werden. Wählen Sie einen anderen Namen oder überprüfen Sie Ihre Berechtigung.</translation>
+        <translation>Der Ordner „%1“ konnte nicht erstellt werden. Wählen Sie einen anderen Namen oder überprüfen Sie Ihre Berechtigungen.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 von %2 Dateien verglichen</translation>
+        <translation>Verglichene Dateien: %1 von %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Do not sync files with these extensions</source>
-        <translation>Keine Dateien mit diesen Erweiterungen synchronisieren</translation>
+        <translation>Keine Dateien mit diesen Dateiendungen synchronisieren</translation>
     </message>
     <message>
         <source>Do not sync files with these names</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>Add extension</source>
-        <translation>Erweiterung hinzufügen</translation>
+        <translation>Dateiendung hinzufügen</translation>
     </message>
     <message>
         <source>Add name</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Enter an extension, for example &quot;iso&quot;.</source>
-        <translation>Geben Sie eine Erweiterung ein, zum Beispiel „iso“.</translation>
+        <translation>Geben Sie eine Dateiendung ein, zum Beispiel „iso“.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is already in the list.</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Previous version</source>
-        <translation>Vorherige Version</translation>
+        <translation>Frühere Version</translation>
     </message>
     <message>
         <source>Version</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server bewahrt bis zu %1 Versionen einer Datei auf.</translation>
+        <translation>Höchstzahl der Versionen, die Corvimo Server von einer Datei aufbewahrt: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>Der Versionsverlauf ist für diesen Ordner deaktiviert. Bitten Sie den Administrator von Corvimo Server, ihn zu aktivieren.</translation>
+        <translation>Der Versionsverlauf ist für diesen Ordner deaktiviert. Bitten Sie den Administrator, ihn zu aktivieren.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>Do you want to restore the selected items (%1)?</source>
-        <translation>Möchten Sie die %1 ausgewählten Elemente wiederherstellen?</translation>
+        <translation>Möchten Sie die ausgewählten Elemente (%1) wiederherstellen?</translation>
     </message>
     <message>
         <source>Items restored: %1.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>Die Berechtigung von %1 wurde geändert.</translation>
+        <translation>Die Berechtigungen von %1 wurden geändert.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>People with access: %1</source>
-        <translation>Geteilt mit Personen: %1</translation>
+        <translation>Anzahl der Personen mit Zugriff: %1</translation>
     </message>
     <message>
         <source>This item is not shared.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Gültig bis</translation>
+        <translation>Link gültig bis</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1209,11 +1209,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; was changed in two places at the same time.</source>
-        <translation>„%1“ wurde an zwei Stellen gleichzeitig geändert.</translation>
+        <translation>„%1“ wurde an zwei Orten gleichzeitig geändert.</translation>
     </message>
     <message>
         <source>%1 files were changed in two places at the same time.</source>
-        <translation>An zwei Stellen gleichzeitig geänderte Dateien: %1.</translation>
+        <translation>An zwei Orten gleichzeitig geänderte Dateien: %1.</translation>
     </message>
     <message>
         <source>Choose which version to keep. The other one is saved as a conflicted copy.</source>
@@ -1261,7 +1261,7 @@
     </message>
     <message>
         <source>When a file was changed in two places</source>
-        <translation>Wenn eine Datei an zwei Stellen geändert wurde</translation>
+        <translation>Wenn eine Datei an zwei Orten geändert wurde</translation>
     </message>
     <message>
         <source>Names that differ only in upper and lower case</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>In diesem Netzwerk wurde kein Server gefunden. Geben Sie die Adresse selbst ein.</translation>
+        <translation>In diesem Netzwerk wurde kein Server gefunden. Geben Sie die Serveradresse selbst ein.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Möglicherweise blockiert eine Firewall Corvimo Client. Erlauben Sie die Nutzung von Port %1.</translation>
+        <translation>Möglicherweise blockiert eine Firewall Corvimo Client. Erlauben Sie Corvimo Client die Nutzung von Port %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Bitte warten ...</translation>
+        <translation>Wird berechnet ...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1941,7 +1941,7 @@
     </message>
     <message>
         <source>Download and install</source>
-        <translation>Laden und installieren</translation>
+        <translation>Herunterladen und installieren</translation>
     </message>
     <message>
         <source>Remind me later</source>
@@ -1993,7 +1993,7 @@
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>Einige Einstellungen der früheren Version konnten nicht übernommen werden. Bitte überprüfen Sie Ihre Synchronisierungsaufgaben.</translation>
+        <translation>Einige Einstellungen der früheren Version konnten nicht übernommen werden. Überprüfen Sie Ihre Synchronisierungsaufgaben.</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Die Datei kann nicht geschrieben werden. Überprüfen Sie ihre Berechtigungen.</translation>
+        <translation>In die Datei kann nicht geschrieben werden. Überprüfen Sie ihre Berechtigungen.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2433,7 +2433,7 @@
     </message>
     <message>
         <source>The shared folder was removed from Corvimo Server.</source>
-        <translation>Der geteilte Ordner wurde von Corvimo Server entfernt.</translation>
+        <translation>Der geteilte Ordner wurde auf Corvimo Server entfernt.</translation>
     </message>
     <message>
         <source>Syncing was turned off for this shared folder.</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message>
         <source>Your session has ended. Sign in again.</source>
-        <translation>Ihre Sitzung ist beendet. Bitte melden Sie sich erneut an.</translation>
+        <translation>Ihre Sitzung ist beendet. Melden Sie sich erneut an.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Die Uhr dieses Computers weicht um mehr als %1 Minuten von der Uhr des Servers ab. Bitte stellen Sie sie richtig.</translation>
+        <translation>Die Uhr dieses Computers weicht um mehr als %1 Minuten von der Uhr des Servers ab. Stellen Sie die Uhr dieses Computers richtig.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Wenn das Problem weiterhin besteht, wenden Sie sich an den Administrator von Corvimo Server.</translation>
+        <translation>Wenn das Problem weiterhin besteht, wenden Sie sich an den Administrator.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Geben Sie Ihren Namen als Domäne\Benutzer ein, wenn Ihr Konto zu einer Domäne gehört.</translation>
+        <translation>Geben Sie Ihren Benutzernamen als Domäne\Benutzer ein, wenn Ihr Konto zu einer Domäne gehört.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Name</translation>
+        <translation>Vollständiger Name</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Der Administrator bittet Sie, Ihr Passwort zu ändern.</translation>
+        <translation>Der Administrator verlangt, dass Sie Ihr Passwort ändern.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Verbundene Geräte</translation>
+        <translation>Verknüpfte Geräte</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Auf diesem Computer %1 Tage lang nicht erneut fragen</translation>
+        <translation>Auf diesem Computer nicht erneut fragen (Anzahl der Tage): %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Sicherung läuft, %1 von %2 Dateien</translation>
+        <translation>Sicherung läuft, Dateien: %1 von %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Dieser Computer wurde seit %1 Tagen nicht gesichert.</translation>
+        <translation>Tage seit der letzten Sicherung dieses Computers: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Die letzten %1 Versionen behalten</translation>
+        <translation>Anzahl der aufbewahrten Versionen: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Versionen %1 Tage lang behalten</translation>
+        <translation>Aufbewahrungsdauer der Versionen in Tagen: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3133,7 +3133,7 @@
     </message>
     <message>
         <source>Choose the files to restore and where to put them.</source>
-        <translation>Wählen Sie die wiederherzustellenden Dateien und einen Ort dafür.</translation>
+        <translation>Wählen Sie die wiederherzustellenden Dateien und wo sie abgelegt werden sollen.</translation>
     </message>
     <message>
         <source>Restore to the original location</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>%1 von %2 Dateien werden wiederhergestellt</translation>
+        <translation>Wiederherstellung läuft, Dateien: %1 von %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>Wiederhergestellte Dateien: %1, nicht wiederherstellbare Dateien: %2.</translation>
+        <translation>Wiederhergestellte Dateien: %1. Dateien, die nicht wiederhergestellt werden konnten: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Überprüfen</translation>
+        <translation>Sicherung prüfen</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Diese Einstellung wird von Ihrem Administrator verwaltet.</translation>
+        <translation>Diese Einstellung wird vom Administrator verwaltet.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Dateien bei Bedarf aktivieren</translation>
+        <translation>„Dateien bei Bedarf“ aktivieren</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Möchten Sie Dateien bei Bedarf für „%1“ aktivieren? Bereits auf diesem Computer vorhandene Dateien bleiben hier.</translation>
+        <translation>Möchten Sie „Dateien bei Bedarf“ für „%1“ aktivieren? Bereits auf diesem Computer vorhandene Dateien bleiben hier.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Dateien bei Bedarf sind aktiviert.</translation>
+        <translation>„Dateien bei Bedarf“ ist aktiviert.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Dateien bei Bedarf deaktivieren</translation>
+        <translation>„Dateien bei Bedarf“ deaktivieren</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Möchten Sie Dateien bei Bedarf deaktivieren? Alle Dateien dieses Ordners werden heruntergeladen (%1).</translation>
+        <translation>Möchten Sie „Dateien bei Bedarf“ deaktivieren? Alle Dateien dieses Ordners werden heruntergeladen (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Dateien, die %1 Tage lang nicht geöffnet wurden, nur online behalten</translation>
+        <translation>Dateien nur online behalten, wenn sie so viele Tage nicht geöffnet wurden: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Dateien bei Bedarf werden von dieser Systemversion nicht unterstützt.</translation>
+        <translation>„Dateien bei Bedarf“ wird von dieser Systemversion nicht unterstützt.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Dateien bei Bedarf werden auf diesem Laufwerk nicht unterstützt.</translation>
+        <translation>„Dateien bei Bedarf“ wird auf diesem Laufwerk nicht unterstützt.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Erlauben Sie in den Systemeinstellungen die Dateianbieter-Erweiterung, um Dateien bei Bedarf zu verwenden.</translation>
+        <translation>Erlauben Sie in den Systemeinstellungen die Dateianbieter-Erweiterung, um „Dateien bei Bedarf“ zu verwenden.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3509,7 +3509,7 @@
     </message>
     <message>
         <source>Get started</source>
-        <translation>Erste Schritte</translation>
+        <translation>Einrichtung starten</translation>
     </message>
     <message>
         <source>Step %1 of %2</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Möchten Sie die Einrichtung verlassen? Sie können sie später fortsetzen.</translation>
+        <translation>Möchten Sie die Einrichtung abbrechen? Sie können sie später fortsetzen.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 Elemente</translation>
+        <translation>Elemente: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3749,7 +3749,7 @@
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 Tage</translation>
+        <translation>%1 Tg.</translation>
     </message>
     <message>
         <source>%1 s left</source>

@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Syncing, files left: %1</source>
-        <translation>同期中、残り %1 ファイル</translation>
+        <translation>同期中、残り %1 個のファイル</translation>
     </message>
     <message>
         <source>Uploading %1</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>同期タスク</translation>
+        <translation>同期</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>バックアップタスク</translation>
+        <translation>バックアップ</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -437,7 +437,7 @@
     </message>
     <message>
         <source>Stopped</source>
-        <translation>停止</translation>
+        <translation>停止中</translation>
     </message>
     <message>
         <source>Error</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>書類</translation>
+        <translation>文書</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>ピクチャ</translation>
+        <translation>画像</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>ビデオ</translation>
+        <translation>動画</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>ミュージック</translation>
+        <translation>音楽</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>このフォルダのバージョン履歴はオフになっています。オンにするには Corvimo Server の管理者に依頼してください。</translation>
+        <translation>このフォルダのバージョン履歴はオフになっています。オンにするには管理者に依頼してください。</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>有効期限</translation>
+        <translation>リンクの有効期限</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1413,15 +1413,15 @@
     </message>
     <message>
         <source>Connected over the local network</source>
-        <translation>ローカルネットワーク経由で接続中</translation>
+        <translation>ローカルネットワーク経由で接続済み</translation>
     </message>
     <message>
         <source>Connected over the Internet</source>
-        <translation>インターネット経由で接続中</translation>
+        <translation>インターネット経由で接続済み</translation>
     </message>
     <message>
         <source>Connected through a relay server</source>
-        <translation>中継サーバー経由で接続中</translation>
+        <translation>中継サーバー経由で接続済み</translation>
     </message>
     <message>
         <source>The relay server is slower than a direct connection.</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>このネットワークではサーバーが見つかりませんでした。アドレスを直接入力してください。</translation>
+        <translation>このネットワークではサーバーが見つかりませんでした。サーバーのアドレスを直接入力してください。</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>ファイアウォールが Corvimo Client をブロックしている可能性があります。ポート %1 の使用を許可してください。</translation>
+        <translation>ファイアウォールが Corvimo Client をブロックしている可能性があります。Corvimo Client にポート %1 の使用を許可してください。</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1641,7 +1641,7 @@
     </message>
     <message>
         <source>The certificate was revoked by the authority that issued it.</source>
-        <translation>証明書は発行元の認証局によって失効されました。</translation>
+        <translation>証明書は発行元の認証局によって取り消されました。</translation>
     </message>
     <message>
         <source>The certificate has changed</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>お待ちください...</translation>
+        <translation>計算中...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; has reached its quota. New files in it cannot be uploaded.</source>
-        <translation>フォルダ「%1」は容量の上限に達しました。このフォルダに新しいファイルはアップロードできません。</translation>
+        <translation>フォルダ「%1」は割り当て容量の上限に達しました。このフォルダに新しいファイルはアップロードできません。</translation>
     </message>
     <message>
         <source>The volume of Corvimo Server is full. Ask the administrator to make room.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 の一時ファイルを削除しました。</translation>
+        <translation>一時ファイルを削除しました (%1)。</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>このコンピュータの時計とサーバーの時計が %1 分以上ずれています。時刻を正しく設定してください。</translation>
+        <translation>このコンピュータの時計とサーバーの時計のずれが %1 分を超えています。このコンピュータの時刻を正しく設定してください。</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>問題が解決しない場合は、Corvimo Server の管理者に問い合わせてください。</translation>
+        <translation>問題が解決しない場合は、管理者に問い合わせてください。</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2613,11 +2613,11 @@
     </message>
     <message>
         <source>Signed in as %1</source>
-        <translation>%1 としてサインイン中</translation>
+        <translation>%1 としてサインイン済み</translation>
     </message>
     <message>
         <source>You are signed out.</source>
-        <translation>サインアウトしています。</translation>
+        <translation>サインアウトしました。</translation>
     </message>
     <message>
         <source>Do you want to sign out? Syncing stops until you sign in again.</source>
@@ -2653,7 +2653,7 @@
     </message>
     <message>
         <source>Remove account</source>
-        <translation>アカウントを削除</translation>
+        <translation>このコンピュータからアカウントを削除</translation>
     </message>
     <message>
         <source>Do you want to remove the account %1 from this computer? Your files stay on this computer and on Corvimo Server.</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>名前</translation>
+        <translation>氏名</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>管理者がパスワードの変更を求めています。</translation>
+        <translation>管理者によって、パスワードの変更が必須になっています。</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,15 +2753,15 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>接続済みデバイス</translation>
+        <translation>連携済みデバイス</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
-        <translation>「%1」のリンクを解除しますか？デバイスはサインアウトされ、同期が停止します。</translation>
+        <translation>「%1」の連携を解除しますか？デバイスはサインアウトされ、同期が停止します。</translation>
     </message>
     <message>
         <source>This computer was unlinked by %1. Sign in again to continue syncing.</source>
-        <translation>このコンピュータのリンクは %1 によって解除されました。同期を続けるには、もう一度サインインしてください。</translation>
+        <translation>このコンピュータの連携は %1 によって解除されました。同期を続けるには、もう一度サインインしてください。</translation>
     </message>
     <message>
         <source>This computer</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>バックアップ中、%1/%2 ファイル</translation>
+        <translation>バックアップ中、%2 個中 %1 個のファイル</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>復元中、%1/%2 ファイル</translation>
+        <translation>復元中、%2 個中 %1 個のファイル</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3157,7 +3157,7 @@
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>確認</translation>
+        <translation>バックアップを検証</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>オンデマンドファイルをオンにする</translation>
+        <translation>「オンデマンドファイル」をオンにする</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>「%1」のオンデマンドファイルをオンにしますか？すでにこのコンピュータにあるファイルはそのまま残ります。</translation>
+        <translation>「%1」で「オンデマンドファイル」をオンにしますか？すでにこのコンピュータにあるファイルはそのまま残ります。</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>オンデマンドファイルはオンです。</translation>
+        <translation>「オンデマンドファイル」はオンです。</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>オンデマンドファイルをオフにする</translation>
+        <translation>「オンデマンドファイル」をオフにする</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>オンデマンドファイルをオフにしますか？このフォルダのすべてのファイルがダウンロードされます (%1)。</translation>
+        <translation>「オンデマンドファイル」をオフにしますか？このフォルダのすべてのファイルがダウンロードされます (%1)。</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3417,7 +3417,7 @@
     </message>
     <message>
         <source>Always on this computer</source>
-        <translation>常にこのコンピュータに保持</translation>
+        <translation>常にこのコンピュータに保存済み</translation>
     </message>
     <message>
         <source>Partly on this computer</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>オンデマンドファイルは、このバージョンのシステムでは使用できません。</translation>
+        <translation>「オンデマンドファイル」は、このバージョンのシステムでは使用できません。</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>オンデマンドファイルは、このディスクでは使用できません。</translation>
+        <translation>「オンデマンドファイル」は、このディスクでは使用できません。</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>オンデマンドファイルを使用するには、システム設定でファイルプロバイダ機能拡張を許可してください。</translation>
+        <translation>「オンデマンドファイル」を使用するには、システム設定でファイルプロバイダ機能拡張を許可してください。</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3541,7 +3541,7 @@
     </message>
     <message>
         <source>Copy your files to Corvimo Server to protect them against loss.</source>
-        <translation>ファイルを Corvimo Server にコピーし、紛失に備えます。</translation>
+        <translation>ファイルを Corvimo Server にコピーし、データの消失に備えます。</translation>
     </message>
     <message>
         <source>Your files will be synced to &quot;%1&quot;.</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>設定を中断しますか？あとで続けることができます。</translation>
+        <translation>セットアップを中断しますか？あとで続けることができます。</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>

@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Задания синхронизации</translation>
+        <translation>Синхронизация</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Задания резервного копирования</translation>
+        <translation>Резервные копии</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -501,11 +501,11 @@
     </message>
     <message>
         <source>%1 was renamed to %2.</source>
-        <translation>Переименовано: %1 в %2.</translation>
+        <translation>Элемент %1 переименован в %2.</translation>
     </message>
     <message>
         <source>%1 was moved to %2.</source>
-        <translation>Перемещено: %1 в %2.</translation>
+        <translation>Элемент %1 перемещен в %2.</translation>
     </message>
     <message>
         <source>Files changed by %2: %1.</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
-        <translation>С этого компьютера будут удалены папки: %1. Они останутся на сервере Corvimo Server.</translation>
+        <translation>Папок, которые будут удалены с этого компьютера: %1. Они останутся на сервере Corvimo Server.</translation>
     </message>
     <message>
         <source>Remove folders from this computer?</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>Не синхронизируется (фильтр)</translation>
+        <translation>Исключено фильтром</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Просмотреть</translation>
+        <translation>Предпросмотр</translation>
     </message>
     <message>
         <source>Close</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Сервер Corvimo Server хранит не более указанного числа версий файла: %1.</translation>
+        <translation>Наибольшее количество версий файла на сервере Corvimo Server: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>История версий для этой папки выключена. Попросите администратора сервера Corvimo Server включить ее.</translation>
+        <translation>История версий для этой папки выключена. Попросите администратора включить ее.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1073,7 +1073,7 @@
     </message>
     <message>
         <source>Shared by me</source>
-        <translation>Мой общий доступ</translation>
+        <translation>Предоставленные мной</translation>
     </message>
     <message>
         <source>People with access: %1</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Действует до</translation>
+        <translation>Ссылка действует до</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is a file on one side and a folder on the other. Rename one of them.</source>
-        <translation>«%1» на одной стороне является файлом, а на другой — папкой. Переименуйте один из элементов.</translation>
+        <translation>«%1» на одной стороне является файлом, а на другой — папкой. Переименуйте один из элементов.</translation>
     </message>
     <message>
         <source>Conflicted copies</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>The connection to %1 was lost. Corvimo Client will try again in %2 seconds.</source>
-        <translation>Подключение к %1 потеряно. Corvimo Client повторит попытку через %2 с.</translation>
+        <translation>Подключение к %1 потеряно. Corvimo Client повторит попытку через %2 с.</translation>
     </message>
     <message>
         <source>The connection to %1 is back.</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>В этой сети не найдено ни одного сервера. Введите адрес вручную.</translation>
+        <translation>В этой сети не найдено ни одного сервера. Введите адрес сервера вручную.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1485,7 +1485,7 @@
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
-        <translation>Версия Corvimo Server слишком старая для этого клиента. Попросите администратора обновить ее до версии %1 или новее.</translation>
+        <translation>Corvimo Server слишком старой версии для этого клиента. Попросите администратора обновить его до версии %1 или новее.</translation>
     </message>
     <message>
         <source>This client is too old for Corvimo Server. Update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Возможно, брандмауэр блокирует Corvimo Client. Разрешите использование порта %1.</translation>
+        <translation>Возможно, брандмауэр блокирует Corvimo Client. Разрешите приложению Corvimo Client использовать порт %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1673,7 +1673,7 @@
     </message>
     <message>
         <source>View certificate</source>
-        <translation>Просмотреть сертификат</translation>
+        <translation>Посмотреть сертификат</translation>
     </message>
     <message>
         <source>Issued to</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Подождите...</translation>
+        <translation>Вычисление...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>Удалено временных файлов: %1.</translation>
+        <translation>Временные файлы удалены (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -2137,7 +2137,7 @@
     </message>
     <message>
         <source>When a backup is complete or has failed</source>
-        <translation>Когда резервное копирование завершено или не выполнено</translation>
+        <translation>Когда резервное копирование завершено или прервано ошибкой</translation>
     </message>
     <message>
         <source>When an update is available</source>
@@ -2289,7 +2289,7 @@
     </message>
     <message>
         <source>The file is being used by another program. Close it there to sync the file.</source>
-        <translation>Файл используется другой программой. Закройте его в ней, чтобы синхронизировать.</translation>
+        <translation>Файл используется другой программой. Закройте его в этой программе, чтобы синхронизировать.</translation>
     </message>
     <message>
         <source>The file is locked by %1.</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Не удается записать файл. Проверьте права доступа к нему.</translation>
+        <translation>Запись в файл невозможна. Проверьте права доступа к нему.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Часы этого компьютера расходятся с часами сервера более чем на %1 мин. Установите правильное время.</translation>
+        <translation>Часы этого компьютера расходятся с часами сервера более чем на %1 мин. Установите правильное время на этом компьютере.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Если проблема не исчезнет, обратитесь к администратору сервера Corvimo Server.</translation>
+        <translation>Если проблема не исчезнет, обратитесь к администратору.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Если ваша учетная запись принадлежит домену, введите имя в виде домен\пользователь.</translation>
+        <translation>Если ваша учетная запись принадлежит домену, введите имя пользователя в виде домен\пользователь.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2653,7 +2653,7 @@
     </message>
     <message>
         <source>Remove account</source>
-        <translation>Удалить учетную запись</translation>
+        <translation>Удалить учетную запись с компьютера</translation>
     </message>
     <message>
         <source>Do you want to remove the account %1 from this computer? Your files stay on this computer and on Corvimo Server.</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Имя</translation>
+        <translation>Полное имя</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Администратор просит вас изменить пароль.</translation>
+        <translation>Администратор требует, чтобы вы изменили пароль.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Подключенные устройства</translation>
+        <translation>Привязанные устройства</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2785,7 +2785,7 @@
     </message>
     <message>
         <source>6 digits</source>
-        <translation>6 цифр</translation>
+        <translation>6 цифр</translation>
     </message>
     <message>
         <source>Verify</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Не спрашивать на этом компьютере %1 дн.</translation>
+        <translation>Не спрашивать на этом компьютере столько дней: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2813,7 +2813,7 @@
     </message>
     <message>
         <source>A code was sent to %1. It is valid for 10 minutes.</source>
-        <translation>Код отправлен на %1. Он действителен в течение 10 минут.</translation>
+        <translation>Код отправлен на %1. Он действителен в течение 10 минут.</translation>
     </message>
     <message>
         <source>The code could not be sent. Ask the administrator for help.</source>
@@ -2885,7 +2885,7 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>Слишком много неверных кодов. Подождите %1 мин и повторите попытку.</translation>
+        <translation>Слишком много неверных кодов. Подождите %1 мин и повторите попытку.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
@@ -3005,7 +3005,7 @@
     </message>
     <message>
         <source>Only when I start it</source>
-        <translation>Только когда я запускаю вручную</translation>
+        <translation>Только при запуске вручную</translation>
     </message>
     <message>
         <source>Daily</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>Резервное копирование завершено, но некоторые файлы не удалось прочитать: %1.</translation>
+        <translation>Резервное копирование завершено. Файлов, которые не удалось прочитать: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Хранить последние версии: %1</translation>
+        <translation>Количество хранимых версий: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Хранить версии %1 дн.</translation>
+        <translation>Сколько дней хранить версии: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>Восстановлено файлов: %1, не удалось восстановить: %2.</translation>
+        <translation>Восстановлено файлов: %1. Не удалось восстановить: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Проверить</translation>
+        <translation>Проверить резервную копию</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Этим параметром управляет ваш администратор.</translation>
+        <translation>Этим параметром управляет администратор.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Включить файлы по запросу</translation>
+        <translation>Включить функцию «Файлы по запросу»</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Включить файлы по запросу для «%1»? Файлы, которые уже есть на этом компьютере, останутся на нем.</translation>
+        <translation>Включить функцию «Файлы по запросу» для «%1»? Файлы, которые уже есть на этом компьютере, останутся на нем.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Файлы по запросу включены.</translation>
+        <translation>Функция «Файлы по запросу» включена.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Выключить файлы по запросу</translation>
+        <translation>Выключить функцию «Файлы по запросу»</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Выключить файлы по запросу? Все файлы этой папки будут скачаны (%1).</translation>
+        <translation>Выключить функцию «Файлы по запросу»? Все файлы этой папки будут скачаны (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Переводить в режим «только онлайн» файлы, которые не открывались %1 дн.</translation>
+        <translation>Переводить в режим «только онлайн» файлы, которые не открывались столько дней: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Файлы по запросу не поддерживаются этой версией системы.</translation>
+        <translation>Функция «Файлы по запросу» не поддерживается этой версией системы.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Файлы по запросу не поддерживаются на этом диске.</translation>
+        <translation>Функция «Файлы по запросу» не поддерживается на этом диске.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Чтобы использовать файлы по запросу, разрешите расширение поставщика файлов в системных настройках.</translation>
+        <translation>Чтобы использовать функцию «Файлы по запросу», разрешите расширение поставщика файлов в системных настройках.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3533,7 +3533,7 @@
     </message>
     <message>
         <source>Keep files the same on this computer and on Corvimo Server.</source>
-        <translation>Поддерживать одинаковые файлы на этом компьютере и на сервере Corvimo Server.</translation>
+        <translation>Поддерживать файлы на этом компьютере и на сервере Corvimo Server одинаковыми.</translation>
     </message>
     <message>
         <source>Back up this computer</source>
@@ -3601,7 +3601,7 @@
     </message>
     <message>
         <source>Right-click a file to share it or to see its versions.</source>
-        <translation>Нажмите файл правой кнопкой, чтобы поделиться им или посмотреть его версии.</translation>
+        <translation>Нажмите файл правой кнопкой мыши, чтобы поделиться им или посмотреть его версии.</translation>
     </message>
     <message>
         <source>The icons on your files show whether they are synced.</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Выйти из настройки? Вы сможете продолжить позже.</translation>
+        <translation>Прервать настройку? Вы сможете продолжить позже.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3617,39 +3617,39 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 Б</translation>
+        <translation>%1 Б</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 КБ</translation>
+        <translation>%1 КБ</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 МБ</translation>
+        <translation>%1 МБ</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 ГБ</translation>
+        <translation>%1 ГБ</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 ТБ</translation>
+        <translation>%1 ТБ</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 КБ/с</translation>
+        <translation>%1 КБ/с</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 МБ/с</translation>
+        <translation>%1 МБ/с</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>1 file</source>
-        <translation>1 файл</translation>
+        <translation>1 файл</translation>
     </message>
     <message>
         <source>%1 files</source>
@@ -3657,7 +3657,7 @@
     </message>
     <message>
         <source>1 folder</source>
-        <translation>1 папка</translation>
+        <translation>1 папка</translation>
     </message>
     <message>
         <source>%1 folders</source>
@@ -3713,7 +3713,7 @@
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>%1 мин назад</translation>
+        <translation>%1 мин назад</translation>
     </message>
     <message>
         <source>An hour ago</source>
@@ -3721,11 +3721,11 @@
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>%1 ч назад</translation>
+        <translation>%1 ч назад</translation>
     </message>
     <message>
         <source>%1 days ago</source>
-        <translation>%1 дн. назад</translation>
+        <translation>%1 дн. назад</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 с</translation>
+        <translation>%1 с</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 мин</translation>
+        <translation>%1 мин</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 ч</translation>
+        <translation>%1 ч</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 дн.</translation>
+        <translation>%1 дн.</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>Осталось %1 с</translation>
+        <translation>Осталось %1 с</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>Осталось %1 мин</translation>
+        <translation>Осталось %1 мин</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>Осталось %1 ч</translation>
+        <translation>Осталось %1 ч</translation>
     </message>
     <message>
         <source>Monday</source>

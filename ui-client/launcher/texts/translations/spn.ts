@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Paused until %1</source>
-        <translation>En pausa hasta: %1</translation>
+        <translation>En pausa hasta %1</translation>
     </message>
     <message>
         <source>Not connected</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>%1 up, %2 down</source>
-        <translation>Subida: %1, bajada: %2</translation>
+        <translation>Subida: %1, descarga: %2</translation>
     </message>
     <message>
         <source>Open</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Tareas de sincronización</translation>
+        <translation>Sincronización</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Tareas de copia de seguridad</translation>
+        <translation>Copias de seguridad</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 de %2 archivos comparados</translation>
+        <translation>Archivos comparados: %1 de %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>No sincronizado por el filtro</translation>
+        <translation>Excluido por el filtro</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>Do you want to replace the current version with the one from %1?</source>
-        <translation>¿Desea reemplazar la versión actual por la de %1?</translation>
+        <translation>¿Desea reemplazar la versión actual por la del %1?</translation>
     </message>
     <message>
         <source>The current version is kept in the history.</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; was restored to the version from %2.</source>
-        <translation>Se ha restaurado «%1» a la versión de %2.</translation>
+        <translation>Se ha restaurado «%1» a la versión del %2.</translation>
     </message>
     <message>
         <source>The version could not be restored. Try again later.</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server conserva hasta %1 versiones de un archivo.</translation>
+        <translation>Número máximo de versiones de un archivo que conserva Corvimo Server: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>El historial de versiones está desactivado en esta carpeta. Pida al administrador de Corvimo Server que lo active.</translation>
+        <translation>El historial de versiones está desactivado en esta carpeta. Pida al administrador que lo active.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>Do you want to restore the selected items (%1)?</source>
-        <translation>¿Desea restaurar los %1 elementos seleccionados?</translation>
+        <translation>¿Desea restaurar los elementos seleccionados (%1)?</translation>
     </message>
     <message>
         <source>Items restored: %1.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>Se ha cambiado el permiso de %1.</translation>
+        <translation>Se han cambiado los permisos de %1.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>People with access: %1</source>
-        <translation>Personas con acceso: %1</translation>
+        <translation>Número de personas con acceso: %1</translation>
     </message>
     <message>
         <source>This item is not shared.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Válido hasta</translation>
+        <translation>Enlace válido hasta</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; differ only in upper and lower case. Rename one of them.</source>
-        <translation>«%1» y «%2» solo se diferencian en las mayúsculas y minúsculas. Cambie el nombre de uno de ellos.</translation>
+        <translation>«%1» y «%2» solo se diferencian en las mayúsculas y minúsculas. Renombre uno de ellos.</translation>
     </message>
     <message>
         <source>There are no conflicts.</source>
@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is a file on one side and a folder on the other. Rename one of them.</source>
-        <translation>«%1» es un archivo en un lado y una carpeta en el otro. Cambie el nombre de uno de ellos.</translation>
+        <translation>«%1» es un archivo en un lado y una carpeta en el otro. Renombre uno de ellos.</translation>
     </message>
     <message>
         <source>Conflicted copies</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>No se ha encontrado ningún servidor en esta red. Introduzca usted mismo su dirección.</translation>
+        <translation>No se ha encontrado ningún servidor en esta red. Introduzca usted mismo la dirección del servidor.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Es posible que un cortafuegos esté bloqueando Corvimo Client. Permítale usar el puerto %1.</translation>
+        <translation>Es posible que un cortafuegos esté bloqueando Corvimo Client. Permita que Corvimo Client use el puerto %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1597,7 +1597,7 @@
     </message>
     <message>
         <source>The proxy %1 cannot be reached. Check its address and port.</source>
-        <translation>No se puede acceder al proxy %1. Compruebe su dirección y su puerto.</translation>
+        <translation>No se puede acceder al proxy %1. Compruebe la dirección y el puerto del proxy.</translation>
     </message>
     <message>
         <source>The proxy does not allow connections to %1.</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Espere...</translation>
+        <translation>Calculando...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -2001,7 +2001,7 @@
     </message>
     <message>
         <source>This version is no longer supported. Install the update to continue syncing.</source>
-        <translation>Esta versión ya no es compatible. Instale la actualización para continuar la sincronización.</translation>
+        <translation>Esta versión ya no recibe soporte. Instale la actualización para continuar la sincronización.</translation>
     </message>
     <message>
         <source>Bandwidth</source>
@@ -2161,7 +2161,7 @@
     </message>
     <message>
         <source>No notifications until %1</source>
-        <translation>Sin notificaciones hasta: %1</translation>
+        <translation>Sin notificaciones hasta %1</translation>
     </message>
     <message>
         <source>Do not disturb me during presentations</source>
@@ -2309,11 +2309,11 @@
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
-        <translation>No se puede leer el archivo. Compruebe sus permisos.</translation>
+        <translation>No se puede leer el archivo. Compruebe los permisos del archivo.</translation>
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>No se puede escribir en el archivo. Compruebe sus permisos.</translation>
+        <translation>No se puede escribir en el archivo. Compruebe los permisos del archivo.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2357,7 +2357,7 @@
     </message>
     <message>
         <source>The path is too long. Shorten the names of its folders.</source>
-        <translation>La ruta es demasiado larga. Acorte los nombres de sus carpetas.</translation>
+        <translation>La ruta es demasiado larga. Acorte los nombres de las carpetas que contiene.</translation>
     </message>
     <message>
         <source>The name contains characters that are not allowed: %1</source>
@@ -2369,11 +2369,11 @@
     </message>
     <message>
         <source>The name ends with a space or a period. Rename the item.</source>
-        <translation>El nombre termina con un espacio o un punto. Cambie el nombre del elemento.</translation>
+        <translation>El nombre termina con un espacio o un punto. Renombre el elemento.</translation>
     </message>
     <message>
         <source>The name contains characters that cannot be read. Rename the item.</source>
-        <translation>El nombre contiene caracteres que no se pueden leer. Cambie el nombre del elemento.</translation>
+        <translation>El nombre contiene caracteres que no se pueden leer. Renombre el elemento.</translation>
     </message>
     <message>
         <source>An item named &quot;%1&quot; already exists in this folder.</source>
@@ -2421,7 +2421,7 @@
     </message>
     <message>
         <source>Corvimo Server reported an internal error. Ask the administrator to look at its log.</source>
-        <translation>Corvimo Server ha informado de un error interno. Pida al administrador que consulte su registro.</translation>
+        <translation>Corvimo Server ha informado de un error interno. Pida al administrador que consulte el registro del servidor.</translation>
     </message>
     <message>
         <source>Corvimo Server accepts no changes at the moment.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>El reloj de este ordenador difiere del reloj del servidor en más de %1 minutos. Póngalo en hora.</translation>
+        <translation>El reloj de este ordenador difiere del reloj del servidor en más de %1 minutos. Corrija la hora de este ordenador.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Si el problema persiste, consulte al administrador de Corvimo Server.</translation>
+        <translation>Si el problema persiste, consulte al administrador.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2617,7 +2617,7 @@
     </message>
     <message>
         <source>You are signed out.</source>
-        <translation>Ha cerrado la sesión.</translation>
+        <translation>La sesión está cerrada.</translation>
     </message>
     <message>
         <source>Do you want to sign out? Syncing stops until you sign in again.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Introduzca su nombre como dominio\usuario si su cuenta pertenece a un dominio.</translation>
+        <translation>Introduzca su nombre de usuario como dominio\usuario si su cuenta pertenece a un dominio.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Nombre</translation>
+        <translation>Nombre completo</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>El administrador le pide que cambie su contraseña.</translation>
+        <translation>El administrador exige que cambie su contraseña.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,11 +2753,11 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Dispositivos conectados</translation>
+        <translation>Dispositivos vinculados</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
-        <translation>¿Desea desvincular «%1»? Se cerrará su sesión y dejará de sincronizarse.</translation>
+        <translation>¿Desea desvincular «%1»? Se cerrará la sesión en el dispositivo y dejará de sincronizarse.</translation>
     </message>
     <message>
         <source>This computer was unlinked by %1. Sign in again to continue syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>No volver a preguntar en este ordenador durante %1 días</translation>
+        <translation>No volver a preguntar en este ordenador durante este número de días: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Haciendo copia de seguridad, %1 de %2 archivos</translation>
+        <translation>Haciendo copia de seguridad, archivos: %1 de %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3085,11 +3085,11 @@
     </message>
     <message>
         <source>The backup scheduled for %1 was missed. It starts now.</source>
-        <translation>No se realizó la copia de seguridad prevista para %1. Se inicia ahora.</translation>
+        <translation>No se realizó la copia de seguridad prevista para el %1. Se inicia ahora.</translation>
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>No se ha hecho ninguna copia de seguridad de este ordenador desde hace %1 días.</translation>
+        <translation>Días desde la última copia de seguridad de este ordenador: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Conservar las últimas %1 versiones</translation>
+        <translation>Número de versiones que se conservan: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Conservar las versiones durante %1 días</translation>
+        <translation>Días que se conservan las versiones: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>Restaurando %1 de %2 archivos</translation>
+        <translation>Restaurando archivos: %1 de %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>Archivos restaurados: %1, archivos que no se han podido restaurar: %2.</translation>
+        <translation>Archivos restaurados: %1. Archivos que no se han podido restaurar: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Verificar</translation>
+        <translation>Verificar copia de seguridad</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Su administrador gestiona este ajuste.</translation>
+        <translation>El administrador gestiona este ajuste.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Activar archivos bajo demanda</translation>
+        <translation>Activar «Archivos bajo demanda»</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>¿Desea activar los archivos bajo demanda para «%1»? Los archivos que ya están en este ordenador permanecen aquí.</translation>
+        <translation>¿Desea activar «Archivos bajo demanda» para «%1»? Los archivos que ya están en este ordenador permanecen aquí.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Los archivos bajo demanda están activados.</translation>
+        <translation>«Archivos bajo demanda» está activado.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Desactivar archivos bajo demanda</translation>
+        <translation>Desactivar «Archivos bajo demanda»</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>¿Desea desactivar los archivos bajo demanda? Se descargarán todos los archivos de esta carpeta (%1).</translation>
+        <translation>¿Desea desactivar «Archivos bajo demanda»? Se descargarán todos los archivos de esta carpeta (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Conservar solo en línea los archivos no abiertos en %1 días</translation>
+        <translation>Conservar solo en línea los archivos no abiertos en este número de días: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3457,7 +3457,7 @@
     </message>
     <message>
         <source>Block downloads by this program</source>
-        <translation>Bloquear las descargas de este programa</translation>
+        <translation>Bloquear las descargas que inicie este programa</translation>
     </message>
     <message>
         <source>A program is opening many online-only files. Do you want to allow it?</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Los archivos bajo demanda no son compatibles con esta versión del sistema.</translation>
+        <translation>«Archivos bajo demanda» no es compatible con esta versión del sistema.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Los archivos bajo demanda no son compatibles con este disco.</translation>
+        <translation>«Archivos bajo demanda» no es compatible con este disco.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Permita la extensión de proveedor de archivos en los ajustes del sistema para usar archivos bajo demanda.</translation>
+        <translation>Permita la extensión de proveedor de archivos en los ajustes del sistema para usar «Archivos bajo demanda».</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3617,7 +3617,7 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 bytes</translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 elementos</translation>
+        <translation>Elementos: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3749,19 +3749,19 @@
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 días</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>Quedan %1 s</translation>
+        <translation>Tiempo restante: %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>Quedan %1 min</translation>
+        <translation>Tiempo restante: %1 min</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>Quedan %1 h</translation>
+        <translation>Tiempo restante: %1 h</translation>
     </message>
     <message>
         <source>Monday</source>
