@@ -11,9 +11,9 @@ generate-texts.py ts CATALOGUE OUT.ts [TRANSLATION.ts]
     of a text that the catalogue no longer has is left out, with a warning if it was finished. Without
     TRANSLATION.ts every text is its own, finished, translation.
 generate-texts.py check FOLDER [CODE]...
-    reports each text with a word that its language's glossary rules out; the exit status is then 1.
-    FOLDER holds catalogue.txt, translations/CODE.ts and glossary/CODE.md. Without CODE all
-    languages are checked.
+    reports each finished text with a word that its language's glossary rules out; the exit status is
+    then 1. FOLDER holds catalogue.txt, translations/CODE.ts and glossary/CODE.md. Without CODE
+    all languages are checked.
 
 A malformed input is reported with its line; the exit status is then 1 and nothing is written.
 """
@@ -131,9 +131,9 @@ def check(folder, *codes):
         messages = {text: (text, True) for text in texts}
         if code in files:
             messages = read_translation(files[code])[1]
-        for text in filter(messages.get, texts):
-            translation = messages[text][0]
-            for term, use, word in broken_rules(rules, text, translation):
+        for text in texts:
+            translation, finished = messages.get(text, ("", False))
+            for term, use, word in broken_rules(rules, text, translation) if finished else []:
                 advice = f'for "{term}" the glossary has "{use}", not "{word}"'
                 lines.append(f'{code}: "{text}" is "{translation}": {advice}')
     return lines

@@ -8,9 +8,10 @@ import unittest
 
 GENERATE_TEXTS = pathlib.Path(__file__).parents[2] / "scripts/generate-texts.py"
 GLOSSARY = "Title\n| Lid | | x; Y |\n| lid of a box; box | | z |\n| * | | ik |\nA | x"
-TEXTS = {"A lid": "Ax", "Boxes, LIDS": "y Z", "A lid of a box": "x", "Boxer": "z", "A": "xİk"}
-REPORTS = [("A lid", "Lid"), ("Boxes, LIDS", "Lid"), ("Boxes, LIDS", "box"), ("A", "*")]
+TEXTS = {"Lids": "Ax", "Boxes, LID": "y Z", "Lid of a box": "x", "Boxer": "z", "A": "xİk", "box": ""}
+REPORTS = [("Lids", "Lid"), ("Boxes, LID", "Lid"), ("Boxes, LID", "box"), ("A", "*")]
 MESSAGE = "<message><source>{}</source><translation>{}</translation></message>"
+UNFINISHED = '<message><source>box</source><translation type="unfinished">z</translation></message>'
 
 
 class GlossaryTest(unittest.TestCase):
@@ -20,7 +21,7 @@ class GlossaryTest(unittest.TestCase):
         for name, content in (
             ("catalogue.txt", "".join(f'k{i} = "{text}"\n' for i, text in enumerate(TEXTS))),
             ("glossary/xyz.md", GLOSSARY),
-            ("translations/xyz.ts", f"<TS><context>{messages}</context></TS>"),
+            ("translations/xyz.ts", f"<TS><context>{messages}{UNFINISHED}</context></TS>"),
         ):
             (folder / name).parent.mkdir(exist_ok=True)
             (folder / name).write_text(content)
