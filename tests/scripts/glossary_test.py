@@ -8,7 +8,7 @@ import unittest
 
 GENERATE_TEXTS = pathlib.Path(__file__).parents[2] / "scripts/generate-texts.py"
 GLOSSARY = "Title\n| Lid | | x; Y |\n| lid of a box; box | | z |\n| * | | ik |\nA | x"
-TEXTS = {"Lids": "Ax", "Boxes, LID": "y Z", "Lid of a box": "x", "Boxer": "z", "A": "xİk", "box": ""}
+TEXTS = {"Lids": "X", "Boxes, LID": "y Z", "Lid of a box": "x", "Boxer": "z", "A": "xİk", "box": ""}
 REPORTS = [("Lids", "Lid"), ("Boxes, LID", "Lid"), ("Boxes, LID", "box"), ("A", "*")]
 MESSAGE = "<message><source>{}</source><translation>{}</translation></message>"
 UNFINISHED = '<message><source>box</source><translation type="unfinished">z</translation></message>'
