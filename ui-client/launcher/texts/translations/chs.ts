@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>File added: </source>
-        <translation>已添加文件： </translation>
+        <translation>已添加文件：</translation>
     </message>
     <message>
         <source>Change folder</source>
@@ -45,23 +45,23 @@
     </message>
     <message>
         <source>File changed: </source>
-        <translation>已更改文件： </translation>
+        <translation>已更改文件：</translation>
     </message>
     <message>
         <source>File deleted: </source>
-        <translation>已删除文件： </translation>
+        <translation>已删除文件：</translation>
     </message>
     <message>
         <source>File renamed: </source>
-        <translation>已重命名文件： </translation>
+        <translation>已重命名文件：</translation>
     </message>
     <message>
         <source>Folder added: </source>
-        <translation>已添加文件夹： </translation>
+        <translation>已添加文件夹：</translation>
     </message>
     <message>
         <source>Folder deleted: </source>
-        <translation>已删除文件夹： </translation>
+        <translation>已删除文件夹：</translation>
     </message>
     <message>
         <source>Recently changed files</source>
