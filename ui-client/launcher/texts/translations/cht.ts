@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>File added: </source>
-        <translation>已新增檔案: </translation>
+        <translation>已新增檔案：</translation>
     </message>
     <message>
         <source>Change folder</source>
@@ -45,23 +45,23 @@
     </message>
     <message>
         <source>File changed: </source>
-        <translation>已變更檔案: </translation>
+        <translation>已變更檔案：</translation>
     </message>
     <message>
         <source>File deleted: </source>
-        <translation>已刪除檔案: </translation>
+        <translation>已刪除檔案：</translation>
     </message>
     <message>
         <source>File renamed: </source>
-        <translation>已重新命名檔案: </translation>
+        <translation>已重新命名檔案：</translation>
     </message>
     <message>
         <source>Folder added: </source>
-        <translation>已新增資料夾: </translation>
+        <translation>已新增資料夾：</translation>
     </message>
     <message>
         <source>Folder deleted: </source>
-        <translation>已刪除資料夾: </translation>
+        <translation>已刪除資料夾：</translation>
     </message>
     <message>
         <source>Recently changed files</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>同步任務</translation>
+        <translation>同步</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>備份任務</translation>
+        <translation>備份</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>文件</translation>
+        <translation>文件檔</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>圖片</translation>
+        <translation>圖片檔</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>影片</translation>
+        <translation>影片檔</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>音樂</translation>
+        <translation>音樂檔</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -885,7 +885,7 @@
     </message>
     <message>
         <source>This file has no previous versions.</source>
-        <translation>此檔案沒有先前的版本。</translation>
+        <translation>此檔案沒有先前版本。</translation>
     </message>
     <message>
         <source>Choose a file to see its versions.</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>此資料夾的版本記錄已關閉。請洽詢 Corvimo Server 的管理員將其開啟。</translation>
+        <translation>此資料夾的版本記錄已關閉。請要求管理員將其開啟。</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>Enter a name or an email address</source>
-        <translation>輸入名稱或電子郵件地址</translation>
+        <translation>輸入姓名或電子郵件地址</translation>
     </message>
     <message>
         <source>Send invitation</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>有效期限</translation>
+        <translation>連結有效期限</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Changed by %1 on %2</source>
-        <translation>%1 變更於 %2</translation>
+        <translation>由 %1 於 %2 變更</translation>
     </message>
     <message>
         <source>When a file was changed in two places</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>在此網路上找不到伺服器。請自行輸入位址。</translation>
+        <translation>在此網路上找不到伺服器。請自行輸入伺服器位址。</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1485,7 +1485,7 @@
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
-        <translation>Corvimo Server 的版本過舊，無法搭配此用戶端使用。請洽詢管理員將其更新至版本 %1 或以上。</translation>
+        <translation>Corvimo Server 的版本過舊，無法搭配此用戶端使用。請要求管理員將其更新至版本 %1 或以上。</translation>
     </message>
     <message>
         <source>This client is too old for Corvimo Server. Update it to version %1 or later.</source>
@@ -1497,11 +1497,11 @@
     </message>
     <message>
         <source>This computer was blocked after too many failed attempts. Ask the administrator to unblock it.</source>
-        <translation>由於失敗次數過多，這台電腦已被封鎖。請洽詢管理員解除封鎖。</translation>
+        <translation>由於失敗次數過多，這台電腦已被封鎖。請要求管理員解除封鎖。</translation>
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>防火牆可能封鎖了 Corvimo Client。請允許它使用連接埠 %1。</translation>
+        <translation>防火牆可能封鎖了 Corvimo Client。請允許 Corvimo Client 使用連接埠 %1。</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1569,7 +1569,7 @@
     </message>
     <message>
         <source>Do not use the proxy for local addresses</source>
-        <translation>不對本機位址使用代理伺服器</translation>
+        <translation>不對區域網路位址使用代理伺服器</translation>
     </message>
     <message>
         <source>Do not use the proxy for these addresses</source>
@@ -1689,7 +1689,7 @@
     </message>
     <message>
         <source>Valid until</source>
-        <translation>有效期限</translation>
+        <translation>有效期至</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>請稍候...</translation>
+        <translation>正在計算...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1801,7 +1801,7 @@
     </message>
     <message>
         <source>The volume of Corvimo Server is full. Ask the administrator to make room.</source>
-        <translation>Corvimo Server 的磁碟區已滿。請洽詢管理員騰出空間。</translation>
+        <translation>Corvimo Server 的磁碟區已滿。請要求管理員騰出空間。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is larger than the storage that is left (%2).</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>已刪除 %1 的暫存檔。</translation>
+        <translation>已刪除暫存檔（%1）。</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -2421,7 +2421,7 @@
     </message>
     <message>
         <source>Corvimo Server reported an internal error. Ask the administrator to look at its log.</source>
-        <translation>Corvimo Server 回報內部錯誤。請洽詢管理員查看其記錄檔。</translation>
+        <translation>Corvimo Server 回報內部錯誤。請要求管理員查看其記錄檔。</translation>
     </message>
     <message>
         <source>Corvimo Server accepts no changes at the moment.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>這台電腦的時鐘與伺服器的時鐘相差超過 %1 分鐘。請加以校正。</translation>
+        <translation>這台電腦的時鐘與伺服器的時鐘相差超過 %1 分鐘。請校正這台電腦的時間。</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>如果問題仍未解決，請洽詢 Corvimo Server 的管理員。</translation>
+        <translation>如果問題仍未解決，請洽詢管理員。</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>如果您的帳號屬於某個網域，請以「網域\使用者」的格式輸入名稱。</translation>
+        <translation>如果您的帳號屬於某個網域，請以「網域\使用者」的格式輸入使用者名稱。</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>名稱</translation>
+        <translation>姓名</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2737,7 +2737,7 @@
     </message>
     <message>
         <source>Your home folder is not available. Ask the administrator to turn on the home service.</source>
-        <translation>您的個人資料夾無法使用。請洽詢管理員開啟個人資料夾服務。</translation>
+        <translation>您的個人資料夾無法使用。請要求管理員開啟個人資料夾服務。</translation>
     </message>
     <message>
         <source>The guest account cannot be used for syncing.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>已連線的裝置</translation>
+        <translation>已連結的裝置</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2817,7 +2817,7 @@
     </message>
     <message>
         <source>The code could not be sent. Ask the administrator for help.</source>
-        <translation>無法傳送驗證碼。請洽詢管理員尋求協助。</translation>
+        <translation>無法傳送驗證碼。請向管理員尋求協助。</translation>
     </message>
     <message>
         <source>Use a recovery code</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message>
         <source>Scan this code with your authenticator app.</source>
-        <translation>請使用您的驗證器 App 掃描此條碼。</translation>
+        <translation>請使用您的驗證器 App 掃描此 QR 碼。</translation>
     </message>
     <message>
         <source>Two-step sign-in is on.</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
-        <translation>備份任務會將這台電腦的資料夾複製到 Corvimo Server，並保留較早的版本。</translation>
+        <translation>備份任務會將這台電腦的資料夾複製到 Corvimo Server，並保留先前版本。</translation>
     </message>
     <message>
         <source>Create backup task</source>
@@ -3025,11 +3025,11 @@
     </message>
     <message>
         <source>At %1</source>
-        <translation>在 %1</translation>
+        <translation>時間：%1</translation>
     </message>
     <message>
         <source>On these days</source>
-        <translation>在下列日期</translation>
+        <translation>在這幾天</translation>
     </message>
     <message>
         <source>When an external disk is connected</source>
@@ -3157,7 +3157,7 @@
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>驗證</translation>
+        <translation>驗證備份</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3245,7 +3245,7 @@
     </message>
     <message>
         <source>Detailed logs make the client slower. Go back to the normal level when you are done.</source>
-        <translation>詳細記錄會使用戶端變慢。完成後請改回一般等級。</translation>
+        <translation>詳細記錄檔會讓用戶端變慢。完成後請改回一般等級。</translation>
     </message>
     <message>
         <source>Open log folder</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>此設定由您的管理員管理。</translation>
+        <translation>此設定由管理員管理。</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>開啟隨選檔案</translation>
+        <translation>啟用隨選檔案</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>要為「%1」開啟隨選檔案嗎？已在這台電腦上的檔案會保留。</translation>
+        <translation>要為「%1」啟用隨選檔案嗎？已在這台電腦上的檔案會保留。</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>隨選檔案已開啟。</translation>
+        <translation>隨選檔案已啟用。</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>關閉隨選檔案</translation>
+        <translation>停用隨選檔案</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>要關閉隨選檔案嗎？此資料夾的所有檔案都將下載（%1）。</translation>
+        <translation>要停用隨選檔案嗎？此資料夾的所有檔案都將下載（%1）。</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3525,7 +3525,7 @@
     </message>
     <message>
         <source>What do you want to do?</source>
-        <translation>您要做什麼？</translation>
+        <translation>您想要做什麼？</translation>
     </message>
     <message>
         <source>Sync files</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>要離開設定嗎？您可以稍後繼續。</translation>
+        <translation>要離開設定程序嗎？您可以稍後繼續。</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
