@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Synchronizační úlohy</translation>
+        <translation>Synchronizace</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Zálohovací úlohy</translation>
+        <translation>Zálohování</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -549,7 +549,7 @@
     </message>
     <message>
         <source>Back</source>
-        <translation>Předchozí</translation>
+        <translation>Zpět</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>Restore defaults</source>
-        <translation>Obnovit výchozí</translation>
+        <translation>Obnovit výchozí nastavení</translation>
     </message>
     <message>
         <source>Do you want to go back to the default filter?</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>Historie verzí je pro tuto složku vypnutá. Požádejte správce serveru Corvimo Server o její zapnutí.</translation>
+        <translation>Historie verzí je pro tuto složku vypnutá. Požádejte správce o její zapnutí.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message>
         <source>The invitation was sent to %1.</source>
-        <translation>Pozvánka byla odeslána na adresu %1.</translation>
+        <translation>Pozvánka byla odeslána. Příjemce: %1.</translation>
     </message>
     <message>
         <source>The invitation could not be sent. Check the email address.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Platí do</translation>
+        <translation>Odkaz platí do</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>The connection to %1 was lost. Corvimo Client will try again in %2 seconds.</source>
-        <translation>Připojení k %1 bylo ztraceno. Aplikace Corvimo Client to zkusí znovu za %2 s.</translation>
+        <translation>Připojení k %1 bylo ztraceno. Aplikace Corvimo Client to zkusí znovu za %2 s.</translation>
     </message>
     <message>
         <source>The connection to %1 is back.</source>
@@ -1405,11 +1405,11 @@
     </message>
     <message>
         <source>Do not sync on metered networks</source>
-        <translation>Nesynchronizovat v sítích s měřenými daty</translation>
+        <translation>Nesynchronizovat v měřených sítích</translation>
     </message>
     <message>
         <source>Syncing is paused because this network is metered.</source>
-        <translation>Synchronizace je pozastavena, protože tato síť má měřená data.</translation>
+        <translation>Synchronizace je pozastavena, protože tato síť je měřená.</translation>
     </message>
     <message>
         <source>Connected over the local network</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>V této síti nebyl nalezen žádný server. Zadejte jeho adresu sami.</translation>
+        <translation>V této síti nebyl nalezen žádný server. Zadejte adresu serveru ručně.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Aplikaci Corvimo Client možná blokuje brána firewall. Povolte jí používat port %1.</translation>
+        <translation>Aplikaci Corvimo Client možná blokuje brána firewall. Povolte aplikaci Corvimo Client používat port %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Čekejte prosím...</translation>
+        <translation>Výpočet...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; has reached its quota. New files in it cannot be uploaded.</source>
-        <translation>Složka „%1“ dosáhla své kvóty. Nové soubory v ní nelze nahrát.</translation>
+        <translation>Složka „%1“ dosáhla své kvóty. Nové soubory do ní nelze nahrát.</translation>
     </message>
     <message>
         <source>The volume of Corvimo Server is full. Ask the administrator to make room.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>Velikost odstraněných dočasných souborů: %1.</translation>
+        <translation>Dočasné soubory byly odstraněny (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1993,7 +1993,7 @@
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>Některá nastavení předchozí verze se nepodařilo převzít. Zkontrolujte prosím své synchronizační úlohy.</translation>
+        <translation>Některá nastavení předchozí verze se nepodařilo převzít. Zkontrolujte své synchronizační úlohy.</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Soubor nelze zapsat. Zkontrolujte jeho oprávnění.</translation>
+        <translation>Do souboru nelze zapisovat. Zkontrolujte jeho oprávnění.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message>
         <source>Your session has ended. Sign in again.</source>
-        <translation>Vaše relace skončila. Přihlaste se prosím znovu.</translation>
+        <translation>Vaše relace skončila. Přihlaste se znovu.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Hodiny tohoto počítače se od hodin serveru liší o více než %1 min. Nastavte je prosím správně.</translation>
+        <translation>Hodiny tohoto počítače se od hodin serveru liší o více než %1 min. Nastavte hodiny tohoto počítače správně.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Ikony stavu nelze zobrazit, protože všechna místa pro ně používají jiné programy.</translation>
+        <translation>Ikony stavu nelze zobrazit, protože všechna dostupná místa pro ikony již používají jiné programy.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Pokud problém přetrvává, obraťte se na správce serveru Corvimo Server.</translation>
+        <translation>Pokud problém přetrvává, obraťte se na správce.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message>
         <source>The browser could not be opened. Open this address yourself: %1</source>
-        <translation>Prohlížeč se nepodařilo otevřít. Otevřete tuto adresu sami: %1</translation>
+        <translation>Prohlížeč se nepodařilo otevřít. Otevřete tuto adresu ručně: %1</translation>
     </message>
     <message>
         <source>Domain</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Pokud váš účet patří do domény, zadejte jméno ve tvaru doména\uživatel.</translation>
+        <translation>Pokud váš účet patří do domény, zadejte uživatelské jméno ve tvaru doména\uživatel.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Název</translation>
+        <translation>Celé jméno</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Správce vás žádá o změnu hesla.</translation>
+        <translation>Správce vyžaduje, abyste si změnili heslo.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Připojená zařízení</translation>
+        <translation>Propojená zařízení</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2885,7 +2885,7 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>Příliš mnoho nesprávných kódů. Počkejte %1 min a zkuste to znovu.</translation>
+        <translation>Příliš mnoho nesprávných kódů. Počkejte %1 min a zkuste to znovu.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
-        <translation>Zálohovací úloha kopíruje složky tohoto počítače na server Corvimo Server a uchovává dřívější verze.</translation>
+        <translation>Zálohovací úloha kopíruje složky tohoto počítače na server Corvimo Server a uchovává předchozí verze.</translation>
     </message>
     <message>
         <source>Create backup task</source>
@@ -3025,7 +3025,7 @@
     </message>
     <message>
         <source>At %1</source>
-        <translation>V %1</translation>
+        <translation>Čas: %1</translation>
     </message>
     <message>
         <source>On these days</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Zálohování, soubory: %1 z %2</translation>
+        <translation>Zálohování souborů: %1 z %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>Zálohování je dokončeno, ale některé soubory se nepodařilo přečíst (%1).</translation>
+        <translation>Zálohování je dokončeno. Soubory, které se nepodařilo přečíst: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Počet dní, po které tento počítač nebyl zálohován: %1.</translation>
+        <translation>Počet dní od poslední zálohy tohoto počítače: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,7 +3101,7 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Počet uchovávaných posledních verzí: %1</translation>
+        <translation>Počet uchovávaných verzí: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
@@ -3109,7 +3109,7 @@
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
-        <translation>Se stářím verzí jich uchovávat méně</translation>
+        <translation>Starších verzí uchovávat méně</translation>
     </message>
     <message>
         <source>Encrypt the backup</source>
@@ -3121,7 +3121,7 @@
     </message>
     <message>
         <source>Keep the key in a safe place. Without it the backup cannot be restored.</source>
-        <translation>Klíč uložte na bezpečném místě. Bez něj nelze zálohu obnovit.</translation>
+        <translation>Klíč uložte na bezpečné místo. Bez něj nelze zálohu obnovit.</translation>
     </message>
     <message>
         <source>The encryption key is wrong.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>Obnovené soubory: %1, soubory, které se nepodařilo obnovit: %2.</translation>
+        <translation>Obnovené soubory: %1. Soubory, které se nepodařilo obnovit: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Ověřit</translation>
+        <translation>Ověřit zálohu</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3245,7 +3245,7 @@
     </message>
     <message>
         <source>Detailed logs make the client slower. Go back to the normal level when you are done.</source>
-        <translation>Podrobné protokoly klienta zpomalují. Až je nebudete potřebovat, vraťte se k normální úrovni.</translation>
+        <translation>Podrobné protokoly zpomalují klienta. Až je nebudete potřebovat, vraťte se k normální úrovni.</translation>
     </message>
     <message>
         <source>Open log folder</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Toto nastavení spravuje váš správce.</translation>
+        <translation>Toto nastavení spravuje správce.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Zapnout soubory na vyžádání</translation>
+        <translation>Zapnout funkci „Soubory na vyžádání“</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Chcete zapnout soubory na vyžádání pro „%1“? Soubory, které již v tomto počítači jsou, v něm zůstanou.</translation>
+        <translation>Chcete pro „%1“ zapnout funkci „Soubory na vyžádání“? Soubory, které již v tomto počítači jsou, v něm zůstanou.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Soubory na vyžádání jsou zapnuté.</translation>
+        <translation>Funkce „Soubory na vyžádání“ je zapnutá.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Vypnout soubory na vyžádání</translation>
+        <translation>Vypnout funkci „Soubory na vyžádání“</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Chcete vypnout soubory na vyžádání? Stáhnou se všechny soubory této složky (%1).</translation>
+        <translation>Chcete vypnout funkci „Soubory na vyžádání“? Stáhnou se všechny soubory této složky (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Tato verze systému soubory na vyžádání nepodporuje.</translation>
+        <translation>Tato verze systému funkci „Soubory na vyžádání“ nepodporuje.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Na tomto disku nejsou soubory na vyžádání podporovány.</translation>
+        <translation>Na tomto disku není funkce „Soubory na vyžádání“ podporována.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Chcete-li používat soubory na vyžádání, povolte v nastavení systému rozšíření poskytovatele souborů.</translation>
+        <translation>Chcete-li používat funkci „Soubory na vyžádání“, povolte v nastavení systému rozšíření poskytovatele souborů.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Chcete ukončit nastavení? Můžete pokračovat později.</translation>
+        <translation>Chcete ukončit průvodce nastavením? Můžete pokračovat později.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 B</translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 kB</translation>
+        <translation>%1 kB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 kB/s</translation>
+        <translation>%1 kB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -3689,7 +3689,7 @@
     </message>
     <message>
         <source>Today at %1</source>
-        <translation>Dnes v %1</translation>
+        <translation>Dnes, %1</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -3697,7 +3697,7 @@
     </message>
     <message>
         <source>Yesterday at %1</source>
-        <translation>Včera v %1</translation>
+        <translation>Včera, %1</translation>
     </message>
     <message>
         <source>Tomorrow</source>
@@ -3705,7 +3705,7 @@
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation>%1 v %2</translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>A minute ago</source>
@@ -3713,7 +3713,7 @@
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>Před %1 min</translation>
+        <translation>Před %1 min</translation>
     </message>
     <message>
         <source>An hour ago</source>
@@ -3721,7 +3721,7 @@
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>Před %1 h</translation>
+        <translation>Před %1 h</translation>
     </message>
     <message>
         <source>%1 days ago</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 h</translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 d</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>Zbývá %1 s</translation>
+        <translation>Zbývá %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>Zbývá %1 min</translation>
+        <translation>Zbývá %1 min</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>Zbývá %1 h</translation>
+        <translation>Zbývá %1 h</translation>
     </message>
     <message>
         <source>Monday</source>
