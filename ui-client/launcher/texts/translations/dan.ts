@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Syncing, files left: %1</source>
-        <translation>Synkroniserer, %1 filer tilbage</translation>
+        <translation>Synkroniserer, filer tilbage: %1</translation>
     </message>
     <message>
         <source>Uploading %1</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Synkroniseringsopgaver</translation>
+        <translation>Synkronisering</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Backupopgaver</translation>
+        <translation>Backup</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Files changed by %2: %1.</source>
-        <translation>%1 filer blev ændret af %2.</translation>
+        <translation>Filer ændret af %2: %1.</translation>
     </message>
     <message>
         <source>Choose folders to sync</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>Mappen ”%1” kunne ikke oprettes. Vælg et andet navn, eller kontroller din tilladelse.</translation>
+        <translation>Mappen ”%1” kunne ikke oprettes. Vælg et andet navn, eller kontroller dine tilladelser.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 af %2 filer sammenlignet</translation>
+        <translation>Filer sammenlignet: %1 af %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
-        <translation>%1 mapper bliver fjernet fra denne computer. De bliver på Corvimo Server.</translation>
+        <translation>Mapper, der fjernes fra denne computer: %1. De bliver på Corvimo Server.</translation>
     </message>
     <message>
         <source>Remove folders from this computer?</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>Synkroniseres ikke på grund af filter</translation>
+        <translation>Udelukket af filter</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>Dokumenter</translation>
+        <translation>Dokumentfiler</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Billeder</translation>
+        <translation>Billedfiler</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Videoer</translation>
+        <translation>Videofiler</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Musik</translation>
+        <translation>Musikfiler</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Vis eksempel</translation>
+        <translation>Forhåndsvis</translation>
     </message>
     <message>
         <source>Close</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server beholder op til %1 versioner af en fil.</translation>
+        <translation>Højeste antal versioner, som Corvimo Server beholder af en fil: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>Versionshistorik er slået fra for denne mappe. Bed administratoren af Corvimo Server om at slå den til.</translation>
+        <translation>Versionshistorik er slået fra for denne mappe. Bed administratoren om at slå den til.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Items restored: %1.</source>
-        <translation>%1 emner blev gendannet.</translation>
+        <translation>Gendannede emner: %1.</translation>
     </message>
     <message>
         <source>No deleted files were found.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>Tilladelsen for %1 blev ændret.</translation>
+        <translation>Tilladelserne for %1 blev ændret.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>People with access: %1</source>
-        <translation>Delt med %1 personer</translation>
+        <translation>Personer med adgang: %1</translation>
     </message>
     <message>
         <source>This item is not shared.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Gyldig til</translation>
+        <translation>Link gyldigt til</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Downloads left: %1</source>
-        <translation>%1 downloads tilbage</translation>
+        <translation>Downloads tilbage: %1</translation>
     </message>
     <message>
         <source>Allow downloading</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
-        <translation>Vil du slette %1 konfliktkopier? De kan ikke gendannes.</translation>
+        <translation>Vil du slette konfliktkopierne (%1)? De kan ikke gendannes.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open in another program and will be synced when it is closed.</source>
@@ -1437,11 +1437,11 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Der blev ikke fundet nogen server på dette netværk. Angiv selv adressen.</translation>
+        <translation>Der blev ikke fundet nogen server på dette netværk. Angiv selv serverens adresse.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
-        <translation>%1 servere fundet</translation>
+        <translation>Fundne servere: %1</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; was not found. Check the spelling of the address.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>Serveren er under vedligeholdelse. Synkroniseringen fortsætter, når den er tilbage.</translation>
+        <translation>Serveren er under vedligeholdelse. Synkroniseringen fortsætter, når den er tilgængelig igen.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>En firewall blokerer muligvis Corvimo Client. Tillad brug af port %1.</translation>
+        <translation>En firewall blokerer muligvis Corvimo Client. Tillad, at Corvimo Client bruger port %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1521,11 +1521,11 @@
     </message>
     <message>
         <source>Do you want to remove the connection to %1? Its sync tasks are deleted, but your files stay.</source>
-        <translation>Vil du fjerne forbindelsen til %1? Dens synkroniseringsopgaver slettes, men dine filer bliver.</translation>
+        <translation>Vil du fjerne forbindelsen til %1? Dens synkroniseringsopgaver slettes, men dine filer bevares.</translation>
     </message>
     <message>
         <source>Files not uploaded yet: %1.</source>
-        <translation>%1 filer er ikke uploadet endnu.</translation>
+        <translation>Filer, der ikke er uploadet endnu: %1.</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -1657,15 +1657,15 @@
     </message>
     <message>
         <source>Trust this certificate</source>
-        <translation>Stol på dette certifikat</translation>
+        <translation>Hav tillid til dette certifikat</translation>
     </message>
     <message>
         <source>Always trust this certificate</source>
-        <translation>Stol altid på dette certifikat</translation>
+        <translation>Hav altid tillid til dette certifikat</translation>
     </message>
     <message>
         <source>Trust this time only</source>
-        <translation>Stol kun på det denne gang</translation>
+        <translation>Hav kun tillid til det denne gang</translation>
     </message>
     <message>
         <source>Do not connect</source>
@@ -1689,7 +1689,7 @@
     </message>
     <message>
         <source>Valid until</source>
-        <translation>Gyldig til</translation>
+        <translation>Gyldigt til</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Vent...</translation>
+        <translation>Beregner...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 midlertidige filer blev slettet.</translation>
+        <translation>Midlertidige filer blev slettet (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -2205,7 +2205,7 @@
     </message>
     <message>
         <source>New notifications: %1</source>
-        <translation>%1 nye notifikationer</translation>
+        <translation>Nye notifikationer: %1</translation>
     </message>
     <message>
         <source>All files are up to date.</source>
@@ -2213,7 +2213,7 @@
     </message>
     <message>
         <source>The first sync is complete. Files now on this computer: %1.</source>
-        <translation>Den første synkronisering er færdig. Der er nu %1 filer på denne computer.</translation>
+        <translation>Den første synkronisering er færdig. Filer, der nu er på denne computer: %1.</translation>
     </message>
     <message>
         <source>Many files were deleted</source>
@@ -2245,7 +2245,7 @@
     </message>
     <message>
         <source>Problems: %1</source>
-        <translation>%1 problemer</translation>
+        <translation>Problemer: %1</translation>
     </message>
     <message>
         <source>There are no problems.</source>
@@ -2305,7 +2305,7 @@
     </message>
     <message>
         <source>The file was damaged during the transfer. It will be transferred again.</source>
-        <translation>Filen blev beskadiget undervejs. Den overføres igen.</translation>
+        <translation>Filen blev beskadiget under overførslen. Den overføres igen.</translation>
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Denne computers ur afviger fra serverens ur med mere end %1 minutter. Indstil det korrekt.</translation>
+        <translation>Denne computers ur afviger fra serverens ur med mere end %1 minutter. Indstil denne computers ur korrekt.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Statussymbolerne kan ikke vises, fordi andre programmer bruger alle pladserne til dem.</translation>
+        <translation>Statussymbolerne kan ikke vises, fordi andre programmer allerede bruger alle tilgængelige symbolpladser.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Spørg administratoren af Corvimo Server, hvis problemet fortsætter.</translation>
+        <translation>Spørg administratoren, hvis problemet fortsætter.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Angiv dit navn som domæne\bruger, hvis din konto hører til et domæne.</translation>
+        <translation>Angiv dit brugernavn som domæne\bruger, hvis din konto hører til et domæne.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Navn</translation>
+        <translation>Fulde navn</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,11 +2689,11 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Administratoren beder dig om at skifte din adgangskode.</translation>
+        <translation>Administratoren kræver, at du skifter din adgangskode.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
-        <translation>Din adgangskode udløber om %1 dage.</translation>
+        <translation>Dage, til din adgangskode udløber: %1.</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Forbundne enheder</translation>
+        <translation>Tilknyttede enheder</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Spørg ikke igen på denne computer i %1 dage</translation>
+        <translation>Spørg ikke igen på denne computer i dette antal dage: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2829,7 +2829,7 @@
     </message>
     <message>
         <source>Recovery codes left: %1.</source>
-        <translation>Du har %1 gendannelseskoder tilbage.</translation>
+        <translation>Gendannelseskoder tilbage: %1.</translation>
     </message>
     <message>
         <source>Use a security key</source>
@@ -2885,7 +2885,7 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>For mange forkerte koder. Vent %1 minutter, og prøv igen.</translation>
+        <translation>For mange forkerte koder. Minutter, før du kan prøve igen: %1.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
@@ -2929,7 +2929,7 @@
     </message>
     <message>
         <source>Delete the backed-up files on Corvimo Server as well</source>
-        <translation>Slet også de sikkerhedskopierede filer på Corvimo Server</translation>
+        <translation>Slet også backupfilerne på Corvimo Server</translation>
     </message>
     <message>
         <source>Task name</source>
@@ -3025,7 +3025,7 @@
     </message>
     <message>
         <source>At %1</source>
-        <translation>Kl. %1</translation>
+        <translation>Kl. %1</translation>
     </message>
     <message>
         <source>On these days</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Tager backup, %1 af %2 filer</translation>
+        <translation>Tager backup af filer: %1 af %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>Backuppen er færdig, men %1 filer kunne ikke læses.</translation>
+        <translation>Backuppen er færdig. Filer, der ikke kunne læses: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Der er ikke taget backup af denne computer i %1 dage.</translation>
+        <translation>Dage siden seneste backup af denne computer: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Behold de seneste %1 versioner</translation>
+        <translation>Antal versioner, der beholdes: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Behold versioner i %1 dage</translation>
+        <translation>Antal dage, versioner beholdes: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>Gendanner %1 af %2 filer</translation>
+        <translation>Gendanner filer: %1 af %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>%1 filer blev gendannet, %2 filer kunne ikke gendannes.</translation>
+        <translation>Gendannede filer: %1. Filer, der ikke kunne gendannes: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Bekræft</translation>
+        <translation>Verificer backup</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3165,7 +3165,7 @@
     </message>
     <message>
         <source>Damaged files in the backup: %1. They will be backed up again.</source>
-        <translation>%1 filer i backuppen er beskadiget. Der tages backup af dem igen.</translation>
+        <translation>Beskadigede filer i backuppen: %1. Der tages backup af dem igen.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Denne indstilling administreres af din administrator.</translation>
+        <translation>Denne indstilling administreres af administratoren.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Slå filer efter behov til</translation>
+        <translation>Slå ”Filer efter behov” til</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Vil du slå filer efter behov til for ”%1”? Filer, der allerede er på denne computer, bliver her.</translation>
+        <translation>Vil du slå ”Filer efter behov” til for ”%1”? Filer, der allerede er på denne computer, bliver her.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Filer efter behov er slået til.</translation>
+        <translation>”Filer efter behov” er slået til.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Slå filer efter behov fra</translation>
+        <translation>Slå ”Filer efter behov” fra</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Vil du slå filer efter behov fra? Alle filer i denne mappe bliver downloadet (%1).</translation>
+        <translation>Vil du slå ”Filer efter behov” fra? Alle filer i denne mappe bliver downloadet (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3425,7 +3425,7 @@
     </message>
     <message>
         <source>Files that will be available online only: %1. Do you want to continue?</source>
-        <translation>%1 filer bliver kun tilgængelige online. Vil du fortsætte?</translation>
+        <translation>Filer, der kun bliver tilgængelige online: %1. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>%1 of disk space was freed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Filer, der ikke er åbnet i %1 dage, bliver kun tilgængelige online</translation>
+        <translation>Gør filer kun tilgængelige online, når de ikke er åbnet i dette antal dage: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3473,19 +3473,19 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Filer efter behov understøttes ikke af denne version af systemet.</translation>
+        <translation>”Filer efter behov” understøttes ikke af denne version af systemet.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Filer efter behov understøttes ikke på denne disk.</translation>
+        <translation>”Filer efter behov” understøttes ikke på denne disk.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Tillad filudbyderudvidelsen i systemindstillingerne for at bruge filer efter behov.</translation>
+        <translation>Tillad filudbyderudvidelsen i systemindstillingerne for at bruge ”Filer efter behov”.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
-        <translation>Vis eksempler på filer, der kun findes online</translation>
+        <translation>Vis forhåndsvisninger af filer, der kun findes online</translation>
     </message>
     <message>
         <source>The contents of online-only files cannot be searched on this computer.</source>
@@ -3557,7 +3557,7 @@
     </message>
     <message>
         <source>You are not a member of any team folder.</source>
-        <translation>Du er ikke medlem af en teammappe.</translation>
+        <translation>Du er ikke medlem af nogen teammappe.</translation>
     </message>
     <message>
         <source>Sync options</source>
@@ -3581,7 +3581,7 @@
     </message>
     <message>
         <source>Files to download: %1 (%2).</source>
-        <translation>%1 filer (%2) bliver downloadet.</translation>
+        <translation>Filer, der bliver downloadet: %1 (%2).</translation>
     </message>
     <message>
         <source>You are all set</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Vil du forlade konfigurationen? Du kan fortsætte senere.</translation>
+        <translation>Vil du afbryde konfigurationen? Du kan fortsætte senere.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 byte</translation>
+        <translation>%1 byte</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/s</translation>
+        <translation>%1 KB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 procent</translation>
+        <translation>%1 procent</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 emner</translation>
+        <translation>Emner: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3673,7 +3673,7 @@
     </message>
     <message>
         <source>Files: %1, folders: %2</source>
-        <translation>%1 filer, %2 mapper</translation>
+        <translation>Filer: %1, mapper: %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -3689,7 +3689,7 @@
     </message>
     <message>
         <source>Today at %1</source>
-        <translation>I dag kl. %1</translation>
+        <translation>I dag kl. %1</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -3697,7 +3697,7 @@
     </message>
     <message>
         <source>Yesterday at %1</source>
-        <translation>I går kl. %1</translation>
+        <translation>I går kl. %1</translation>
     </message>
     <message>
         <source>Tomorrow</source>
@@ -3705,7 +3705,7 @@
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation>%1 kl. %2</translation>
+        <translation>%1 kl. %2</translation>
     </message>
     <message>
         <source>A minute ago</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 sekunder</translation>
+        <translation>%1 sek.</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 minutter</translation>
+        <translation>%1 min.</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 timer</translation>
+        <translation>%1 t.</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 dage</translation>
+        <translation>%1 dg.</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>%1 sekunder tilbage</translation>
+        <translation>%1 sek. tilbage</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>%1 minutter tilbage</translation>
+        <translation>%1 min. tilbage</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>%1 timer tilbage</translation>
+        <translation>%1 t. tilbage</translation>
     </message>
     <message>
         <source>Monday</source>
