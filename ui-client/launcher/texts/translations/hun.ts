@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Szinkronizálási feladatok</translation>
+        <translation>Szinkronizálás</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Biztonsági mentési feladatok</translation>
+        <translation>Biztonsági mentés</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -657,7 +657,7 @@
     </message>
     <message>
         <source>Both folders are now the same.</source>
-        <translation>A két mappa mostantól megegyezik.</translation>
+        <translation>A két mappa most megegyezik.</translation>
     </message>
     <message>
         <source>This folder is already part of a sync task. Choose another folder.</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
-        <translation>Válassza ki, mi szinkronizálódjon erre a számítógépre. A jelöletlenné tett mappák eltűnnek erről a számítógépről, de a Corvimo Server kiszolgálón megmaradnak.</translation>
+        <translation>Válassza ki, mi szinkronizálódjon erre a számítógépre. Azok a mappák, amelyeknek törli a jelölését, lekerülnek erről a számítógépről, de a Corvimo Server kiszolgálón megmaradnak.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
-        <translation>%1 mappa eltűnik erről a számítógépről. A Corvimo Server kiszolgálón megmaradnak.</translation>
+        <translation>%1 mappa lekerül erről a számítógépről. A Corvimo Server kiszolgálón megmaradnak.</translation>
     </message>
     <message>
         <source>Remove folders from this computer?</source>
@@ -793,7 +793,7 @@
     </message>
     <message>
         <source>Restore defaults</source>
-        <translation>Alapértékek visszaállítása</translation>
+        <translation>Alaphelyzetbe állítás</translation>
     </message>
     <message>
         <source>Do you want to go back to the default filter?</source>
@@ -821,23 +821,23 @@
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
-        <translation>A választását mentettük. A Corvimo Client most alkalmazza.</translation>
+        <translation>A választása mentve. A Corvimo Client most alkalmazza.</translation>
     </message>
     <message>
         <source>Document files</source>
-        <translation>Dokumentumok</translation>
+        <translation>Dokumentumfájlok</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Képek</translation>
+        <translation>Képfájlok</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Videók</translation>
+        <translation>Videofájlok</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Zene</translation>
+        <translation>Zenefájlok</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>A verzióelőzmények ki vannak kapcsolva ennél a mappánál. Kérje meg a Corvimo Server rendszergazdáját, hogy kapcsolja be őket.</translation>
+        <translation>A verzióelőzmények ki vannak kapcsolva ennél a mappánál. Kérje meg a rendszergazdát, hogy kapcsolja be őket.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1061,11 +1061,11 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>%1 jogosultsága módosult.</translation>
+        <translation>%1 jogosultságai módosultak.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
-        <translation>Nincs jogosultsága megosztani ezt az elemet. Forduljon a tulajdonosához.</translation>
+        <translation>Nincs jogosultsága megosztani ezt az elemet. Forduljon az elem tulajdonosához.</translation>
     </message>
     <message>
         <source>Shared with me</source>
@@ -1089,7 +1089,7 @@
     </message>
     <message>
         <source>Do you want to leave the shared folder &quot;%1&quot;? It will be removed from this computer.</source>
-        <translation>Elhagyja a következő megosztott mappát: „%1”? A mappa eltűnik erről a számítógépről.</translation>
+        <translation>Elhagyja a következő megosztott mappát: „%1”? A mappa lekerül erről a számítógépről.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer shared with you.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Érvényesség vége</translation>
+        <translation>Hivatkozás érvényes eddig</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>People with the link can upload files to this folder without seeing its contents.</source>
-        <translation>A hivatkozás birtokosai fájlokat tölthetnek fel ebbe a mappába anélkül, hogy látnák a tartalmát.</translation>
+        <translation>A hivatkozás birtokosai fájlokat tölthetnek fel ebbe a mappába anélkül, hogy látnák a mappa tartalmát.</translation>
     </message>
     <message>
         <source>Show QR code</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Nem található kiszolgáló ezen a hálózaton. Adja meg Ön a címét.</translation>
+        <translation>Nem található kiszolgáló ezen a hálózaton. Adja meg kézzel a kiszolgáló címét.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1485,11 +1485,11 @@
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
-        <translation>A Corvimo Server túl régi ehhez a klienshez. Kérje meg a rendszergazdát, hogy frissítse a %1 vagy újabb verzióra.</translation>
+        <translation>A Corvimo Server túl régi ehhez a klienshez. Kérje meg a rendszergazdát, hogy frissítse legalább a következő verzióra: %1.</translation>
     </message>
     <message>
         <source>This client is too old for Corvimo Server. Update it to version %1 or later.</source>
-        <translation>Ez a kliens túl régi a Corvimo Server kiszolgálóhoz. Frissítse a %1 vagy újabb verzióra.</translation>
+        <translation>Ez a kliens túl régi a Corvimo Server kiszolgálóhoz. Frissítse legalább a következő verzióra: %1.</translation>
     </message>
     <message>
         <source>Too many clients are connected to the server. Try again later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Lehet, hogy egy tűzfal blokkolja a Corvimo Client alkalmazást. Engedélyezze számára a következő portot: %1.</translation>
+        <translation>Lehet, hogy egy tűzfal blokkolja a Corvimo Client alkalmazást. Engedélyezze, hogy a Corvimo Client használja a következő portot: %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1521,7 +1521,7 @@
     </message>
     <message>
         <source>Do you want to remove the connection to %1? Its sync tasks are deleted, but your files stay.</source>
-        <translation>Eltávolítja a következő kapcsolatot: %1? A szinkronizálási feladatai törlődnek, de a fájlok megmaradnak.</translation>
+        <translation>Eltávolítja a következő kapcsolatot: %1? A kapcsolat szinkronizálási feladatai törlődnek, de a fájlok megmaradnak.</translation>
     </message>
     <message>
         <source>Files not uploaded yet: %1.</source>
@@ -1597,7 +1597,7 @@
     </message>
     <message>
         <source>The proxy %1 cannot be reached. Check its address and port.</source>
-        <translation>A következő proxy nem érhető el: %1. Ellenőrizze a címét és a portját.</translation>
+        <translation>A következő proxy nem érhető el: %1. Ellenőrizze a proxy címét és portját.</translation>
     </message>
     <message>
         <source>The proxy does not allow connections to %1.</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Kérjük, várjon...</translation>
+        <translation>Számítás...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 ideiglenes fájl törölve.</translation>
+        <translation>Ideiglenes fájlok törölve (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1905,7 +1905,7 @@
     </message>
     <message>
         <source>Your request was sent to the administrator.</source>
-        <translation>A kérését elküldtük a rendszergazdának.</translation>
+        <translation>A kérése elküldve a rendszergazdának.</translation>
     </message>
     <message>
         <source>Your request is waiting for an answer.</source>
@@ -2161,7 +2161,7 @@
     </message>
     <message>
         <source>No notifications until %1</source>
-        <translation>Nincs értesítés eddig: %1</translation>
+        <translation>Értesítések elnémítva eddig: %1</translation>
     </message>
     <message>
         <source>Do not disturb me during presentations</source>
@@ -2213,7 +2213,7 @@
     </message>
     <message>
         <source>The first sync is complete. Files now on this computer: %1.</source>
-        <translation>Az első szinkronizálás befejeződött. Mostantól %1 fájl van ezen a számítógépen.</translation>
+        <translation>Az első szinkronizálás befejeződött. Jelenleg %1 fájl van ezen a számítógépen.</translation>
     </message>
     <message>
         <source>Many files were deleted</source>
@@ -2261,11 +2261,11 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Idő</translation>
+        <translation>Időpont</translation>
     </message>
     <message>
         <source>Retry all</source>
-        <translation>Összes újra</translation>
+        <translation>Összes újrapróbálása</translation>
     </message>
     <message>
         <source>Details</source>
@@ -2309,11 +2309,11 @@
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
-        <translation>A fájl nem olvasható. Ellenőrizze a jogosultságait.</translation>
+        <translation>A fájl nem olvasható. Ellenőrizze a fájl jogosultságait.</translation>
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>A fájl nem írható. Ellenőrizze a jogosultságait.</translation>
+        <translation>A fájl nem írható. Ellenőrizze a fájl jogosultságait.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2421,7 +2421,7 @@
     </message>
     <message>
         <source>Corvimo Server reported an internal error. Ask the administrator to look at its log.</source>
-        <translation>A Corvimo Server belső hibát jelzett. Kérje meg a rendszergazdát, hogy nézze meg a naplóját.</translation>
+        <translation>A Corvimo Server belső hibát jelzett. Kérje meg a rendszergazdát, hogy nézze meg a kiszolgáló naplóját.</translation>
     </message>
     <message>
         <source>Corvimo Server accepts no changes at the moment.</source>
@@ -2453,35 +2453,35 @@
     </message>
     <message>
         <source>&quot;%1&quot; could not be uploaded.</source>
-        <translation>Nem sikerült feltölteni: „%1”.</translation>
+        <translation>„%1” feltöltése nem sikerült.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be uploaded: %2</source>
-        <translation>Nem sikerült feltölteni: „%1”: %2</translation>
+        <translation>„%1” feltöltése nem sikerült: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded.</source>
-        <translation>Nem sikerült letölteni: „%1”.</translation>
+        <translation>„%1” letöltése nem sikerült.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded: %2</source>
-        <translation>Nem sikerült letölteni: „%1”: %2</translation>
+        <translation>„%1” letöltése nem sikerült: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be deleted: %2</source>
-        <translation>Nem sikerült törölni: „%1”: %2</translation>
+        <translation>„%1” törlése nem sikerült: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be renamed: %2</source>
-        <translation>Nem sikerült átnevezni: „%1”: %2</translation>
+        <translation>„%1” átnevezése nem sikerült: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be moved: %2</source>
-        <translation>Nem sikerült áthelyezni: „%1”: %2</translation>
+        <translation>„%1” áthelyezése nem sikerült: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be restored: %2</source>
-        <translation>Nem sikerült visszaállítani: „%1”: %2</translation>
+        <translation>„%1” visszaállítása nem sikerült: %2</translation>
     </message>
     <message>
         <source>Permission denied</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>A számítógép órája több mint %1 perccel eltér a kiszolgáló órájától. Állítsa be pontosan.</translation>
+        <translation>A számítógép órája több mint %1 perccel eltér a kiszolgáló órájától. Állítsa be pontosan a számítógép óráját.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Az állapotikonok nem jeleníthetők meg, mert minden helyüket más programok használják.</translation>
+        <translation>Az állapotikonok nem jeleníthetők meg, mert minden elérhető ikonhelyet már más programok használnak.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Ha a probléma nem szűnik meg, forduljon a Corvimo Server rendszergazdájához.</translation>
+        <translation>Ha a probléma nem szűnik meg, forduljon a rendszergazdához.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message>
         <source>The browser could not be opened. Open this address yourself: %1</source>
-        <translation>Nem sikerült megnyitni a böngészőt. Nyissa meg Ön ezt a címet: %1</translation>
+        <translation>Nem sikerült megnyitni a böngészőt. Nyissa meg kézzel ezt a címet: %1</translation>
     </message>
     <message>
         <source>Domain</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Ha a fiókja egy tartományhoz tartozik, tartomány\felhasználó formában adja meg a nevét.</translation>
+        <translation>Ha a fiókja egy tartományhoz tartozik, tartomány\felhasználó formában adja meg a felhasználónevét.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Név</translation>
+        <translation>Teljes név</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>A rendszergazda a jelszava módosítását kéri.</translation>
+        <translation>A rendszergazda előírja, hogy módosítsa a jelszavát.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Kapcsolódó eszközök</translation>
+        <translation>Társított eszközök</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2813,7 +2813,7 @@
     </message>
     <message>
         <source>A code was sent to %1. It is valid for 10 minutes.</source>
-        <translation>A kódot elküldtük ide: %1. A kód 10 percig érvényes.</translation>
+        <translation>A kód elküldve ide: %1. A kód 10 percig érvényes.</translation>
     </message>
     <message>
         <source>The code could not be sent. Ask the administrator for help.</source>
@@ -3109,7 +3109,7 @@
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
-        <translation>Minél régebbiek a verziók, annál kevesebb megőrzése</translation>
+        <translation>Régebbi verziókból egyre kevesebb megőrzése</translation>
     </message>
     <message>
         <source>Encrypt the backup</source>
@@ -3157,7 +3157,7 @@
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Ellenőrzés</translation>
+        <translation>Biztonsági mentés ellenőrzése</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3217,7 +3217,7 @@
     </message>
     <message>
         <source>Contact support</source>
-        <translation>Kapcsolatfelvétel az ügyfélszolgálattal</translation>
+        <translation>Ügyfélszolgálat</translation>
     </message>
     <message>
         <source>Send feedback</source>
@@ -3329,7 +3329,7 @@
     </message>
     <message>
         <source>The language changes when you restart Corvimo Client.</source>
-        <translation>A nyelv a Corvimo Client újraindításakor vált át.</translation>
+        <translation>A nyelv a Corvimo Client újraindítása után változik meg.</translation>
     </message>
     <message>
         <source>Appearance</source>
@@ -3349,7 +3349,7 @@
     </message>
     <message>
         <source>Do not sleep while files are being synced</source>
-        <translation>Ne aludjon el a gép a fájlok szinkronizálása közben</translation>
+        <translation>A számítógép ne lépjen alvó állapotba a fájlok szinkronizálása közben</translation>
     </message>
     <message>
         <source>Move files deleted on Corvimo Server to the trash</source>
@@ -3361,7 +3361,7 @@
     </message>
     <message>
         <source>Do you want to reset all settings? Your sync tasks stay as they are.</source>
-        <translation>Visszaállítja az összes beállítást az alapértékre? A szinkronizálási feladatok változatlanok maradnak.</translation>
+        <translation>Alaphelyzetbe állítja az összes beállítást? A szinkronizálási feladatok változatlanok maradnak.</translation>
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Igény szerinti fájlok bekapcsolása</translation>
+        <translation>Az „Igény szerinti fájlok” funkció bekapcsolása</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Bekapcsolja az igény szerinti fájlokat a következőhöz: „%1”? A már ezen a számítógépen lévő fájlok itt maradnak.</translation>
+        <translation>Bekapcsolja az „Igény szerinti fájlok” funkciót a következőhöz: „%1”? A már ezen a számítógépen lévő fájlok itt maradnak.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Az igény szerinti fájlok be vannak kapcsolva.</translation>
+        <translation>Az „Igény szerinti fájlok” funkció be van kapcsolva.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Igény szerinti fájlok kikapcsolása</translation>
+        <translation>Az „Igény szerinti fájlok” funkció kikapcsolása</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Kikapcsolja az igény szerinti fájlokat? A mappa minden fájlja letöltődik (%1).</translation>
+        <translation>Kikapcsolja az „Igény szerinti fájlok” funkciót? A mappa minden fájlja letöltődik (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>A %1 napja meg nem nyitott fájlok váljanak csak online elérhetővé</translation>
+        <translation>Fájlok csak online elérhetővé tétele, ha ennyi napja nem nyitották meg őket: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3465,7 +3465,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be opened because it is online only and Corvimo Client is not connected.</source>
-        <translation>„%1” nem nyitható meg, mert csak online érhető el, és a Corvimo Client nem kapcsolódik.</translation>
+        <translation>„%1” nem nyitható meg, mert csak online érhető el, és a Corvimo Client nincs kapcsolatban a kiszolgálóval.</translation>
     </message>
     <message>
         <source>Start Corvimo Client to open online-only files.</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>A rendszernek ez a verziója nem támogatja az igény szerinti fájlokat.</translation>
+        <translation>A rendszernek ez a verziója nem támogatja az „Igény szerinti fájlok” funkciót.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Ez a lemez nem támogatja az igény szerinti fájlokat.</translation>
+        <translation>Ez a lemez nem támogatja az „Igény szerinti fájlok” funkciót.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Az igény szerinti fájlok használatához engedélyezze a fájlszolgáltatói bővítményt a rendszerbeállításokban.</translation>
+        <translation>Az „Igény szerinti fájlok” funkció használatához engedélyezze a fájlszolgáltatói bővítményt a rendszerbeállításokban.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Kilép a beállításból? Később folytathatja.</translation>
+        <translation>Kilép a beállítási folyamatból? Később folytathatja.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 bájt</translation>
+        <translation>%1 bájt</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/s</translation>
+        <translation>%1 KB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 százalék</translation>
+        <translation>%1 százalék</translation>
     </message>
     <message>
         <source>1 file</source>
