@@ -89,15 +89,15 @@
     </message>
     <message>
         <source>Pause syncing</source>
-        <translation>Sospendi sincronizzazione</translation>
+        <translation>Metti in pausa la sincronizzazione</translation>
     </message>
     <message>
         <source>Pause for one hour</source>
-        <translation>Sospendi per un&apos;ora</translation>
+        <translation>Metti in pausa per un’ora</translation>
     </message>
     <message>
         <source>Pause until tomorrow</source>
-        <translation>Sospendi fino a domani</translation>
+        <translation>Metti in pausa fino a domani</translation>
     </message>
     <message>
         <source>Resume syncing</source>
@@ -345,15 +345,15 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Attività di sincronizzazione</translation>
+        <translation>Sincronizzazione</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Attività di backup</translation>
+        <translation>Backup</translation>
     </message>
     <message>
         <source>Recent activity</source>
-        <translation>Attività recente</translation>
+        <translation>Operazioni recenti</translation>
     </message>
     <message>
         <source>Create</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Pause</source>
-        <translation>Sospendi</translation>
+        <translation>Metti in pausa</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -377,7 +377,7 @@
     </message>
     <message>
         <source>Pause all</source>
-        <translation>Sospendi tutto</translation>
+        <translation>Metti tutto in pausa</translation>
     </message>
     <message>
         <source>Resume all</source>
@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>There is no sync task yet. Create one to keep a folder on this computer and a folder on Corvimo Server the same.</source>
-        <translation>Non c&apos;è ancora alcuna attività di sincronizzazione. Creane una per mantenere uguali una cartella di questo computer e una cartella di Corvimo Server.</translation>
+        <translation>Non c’è ancora alcuna attività di sincronizzazione. Creane una per mantenere uguali una cartella di questo computer e una cartella di Corvimo Server.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Do you want to delete the sync task &quot;%1&quot;? Your files stay on this computer and on Corvimo Server.</source>
-        <translation>Vuoi eliminare l&apos;attività di sincronizzazione “%1”? I tuoi file rimangono su questo computer e su Corvimo Server.</translation>
+        <translation>Vuoi eliminare l’attività di sincronizzazione “%1”? I tuoi file rimangono su questo computer e su Corvimo Server.</translation>
     </message>
     <message>
         <source>Do you want to delete the %1 selected sync tasks? Your files stay on this computer and on Corvimo Server.</source>
@@ -465,7 +465,7 @@
     </message>
     <message>
         <source>The sync task was deleted.</source>
-        <translation>L&apos;attività di sincronizzazione è stata eliminata.</translation>
+        <translation>L’attività di sincronizzazione è stata eliminata.</translation>
     </message>
     <message>
         <source>Syncing is paused. Changes will be synced when you resume.</source>
@@ -477,7 +477,7 @@
     </message>
     <message>
         <source>All activity</source>
-        <translation>Tutte le attività</translation>
+        <translation>Tutte le operazioni</translation>
     </message>
     <message>
         <source>Errors only</source>
@@ -585,7 +585,7 @@
     </message>
     <message>
         <source>Changes on either side are copied to the other.</source>
-        <translation>Le modifiche di un lato vengono copiate sull&apos;altro.</translation>
+        <translation>Le modifiche di un lato vengono copiate sull’altro.</translation>
     </message>
     <message>
         <source>Changes on this computer are uploaded. Changes on Corvimo Server are not downloaded.</source>
@@ -629,7 +629,7 @@
     </message>
     <message>
         <source>Choose another folder</source>
-        <translation>Scegli un&apos;altra cartella</translation>
+        <translation>Scegli un’altra cartella</translation>
     </message>
     <message>
         <source>Files that differ are kept in two copies.</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>Files with the same name will be replaced. This cannot be undone.</source>
-        <translation>I file con lo stesso nome verranno sostituiti. L&apos;operazione non può essere annullata.</translation>
+        <translation>I file con lo stesso nome verranno sostituiti. L’operazione non può essere annullata.</translation>
     </message>
     <message>
         <source>Comparing both folders...</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 di %2 file confrontati</translation>
+        <translation>File confrontati: %1 di %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -661,19 +661,19 @@
     </message>
     <message>
         <source>This folder is already part of a sync task. Choose another folder.</source>
-        <translation>Questa cartella fa già parte di un&apos;attività di sincronizzazione. Scegli un&apos;altra cartella.</translation>
+        <translation>Questa cartella fa già parte di un’attività di sincronizzazione. Scegli un’altra cartella.</translation>
     </message>
     <message>
         <source>This folder is inside a folder that is already synced. Choose another folder.</source>
-        <translation>Questa cartella si trova in una cartella già sincronizzata. Scegli un&apos;altra cartella.</translation>
+        <translation>Questa cartella si trova in una cartella già sincronizzata. Scegli un’altra cartella.</translation>
     </message>
     <message>
         <source>This folder contains a folder that is already synced. Choose another folder.</source>
-        <translation>Questa cartella contiene una cartella già sincronizzata. Scegli un&apos;altra cartella.</translation>
+        <translation>Questa cartella contiene una cartella già sincronizzata. Scegli un’altra cartella.</translation>
     </message>
     <message>
         <source>System folders cannot be synced. Choose another folder.</source>
-        <translation>Le cartelle di sistema non possono essere sincronizzate. Scegli un&apos;altra cartella.</translation>
+        <translation>Le cartelle di sistema non possono essere sincronizzate. Scegli un’altra cartella.</translation>
     </message>
     <message>
         <source>A whole disk cannot be synced. Choose a folder on it.</source>
@@ -689,7 +689,7 @@
     </message>
     <message>
         <source>You do not have permission to write to this folder. Choose another folder.</source>
-        <translation>Non hai il permesso di scrivere in questa cartella. Scegli un&apos;altra cartella.</translation>
+        <translation>Non hai il permesso di scrivere in questa cartella. Scegli un’altra cartella.</translation>
     </message>
     <message>
         <source>This folder is encrypted and locked. Unlock it on Corvimo Server first.</source>
@@ -705,7 +705,7 @@
     </message>
     <message>
         <source>You have reached the limit of %1 sync tasks. Delete a task that you no longer need.</source>
-        <translation>Hai raggiunto il numero massimo di attività di sincronizzazione (%1). Elimina un&apos;attività che non ti serve più.</translation>
+        <translation>Hai raggiunto il numero massimo di attività di sincronizzazione (%1). Elimina un’attività che non ti serve più.</translation>
     </message>
     <message>
         <source>Selective sync</source>
@@ -737,7 +737,7 @@
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
-        <translation>Non è stato possibile caricare l&apos;elenco delle cartelle. Verifica la connessione e riprova.</translation>
+        <translation>Non è stato possibile caricare l’elenco delle cartelle. Verifica la connessione e riprova.</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>Remove folders from this computer?</source>
-        <translation>Rimuovere le cartelle da questo computer?</translation>
+        <translation>Vuoi rimuovere le cartelle da questo computer?</translation>
     </message>
     <message>
         <source>Some files in these folders have not been uploaded yet and would be lost. Sync them first.</source>
@@ -801,11 +801,11 @@
     </message>
     <message>
         <source>Enter an extension, for example &quot;iso&quot;.</source>
-        <translation>Inserisci un&apos;estensione, ad esempio “iso”.</translation>
+        <translation>Inserisci un’estensione, ad esempio “iso”.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is already in the list.</source>
-        <translation>“%1” è già nell&apos;elenco.</translation>
+        <translation>“%1” è già nell’elenco.</translation>
     </message>
     <message>
         <source>A name must not contain any of these characters: \ / : * ? &lt; &gt; |</source>
@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>Do you want to replace the current version with the one from %1?</source>
-        <translation>Vuoi sostituire la versione attuale con quella del %1?</translation>
+        <translation>Vuoi sostituire la versione attuale con quella selezionata (%1)?</translation>
     </message>
     <message>
         <source>The current version is kept in the history.</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; was restored to the version from %2.</source>
-        <translation>“%1” è stato ripristinato alla versione del %2.</translation>
+        <translation>“%1” è stato ripristinato a una versione precedente (%2).</translation>
     </message>
     <message>
         <source>The version could not be restored. Try again later.</source>
@@ -933,15 +933,15 @@
     </message>
     <message>
         <source>Protected from automatic deletion</source>
-        <translation>Protetta dall&apos;eliminazione automatica</translation>
+        <translation>Protetta dall’eliminazione automatica</translation>
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server conserva fino a %1 versioni di un file.</translation>
+        <translation>Numero massimo di versioni di un file conservate da Corvimo Server: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>La cronologia delle versioni è disattivata per questa cartella. Chiedi all&apos;amministratore di Corvimo Server di attivarla.</translation>
+        <translation>La cronologia delle versioni è disattivata per questa cartella. Chiedi all’amministratore di attivarla.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -957,11 +957,11 @@
     </message>
     <message>
         <source>Deleted on %1</source>
-        <translation>Eliminato il %1</translation>
+        <translation>Eliminato: %1</translation>
     </message>
     <message>
         <source>Do you want to restore the selected items (%1)?</source>
-        <translation>Vuoi ripristinare i %1 elementi selezionati?</translation>
+        <translation>Vuoi ripristinare gli elementi selezionati (%1)?</translation>
     </message>
     <message>
         <source>Items restored: %1.</source>
@@ -977,7 +977,7 @@
     </message>
     <message>
         <source>Choose a date and time</source>
-        <translation>Scegli una data e un&apos;ora</translation>
+        <translation>Scegli una data e un’ora</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -1017,11 +1017,11 @@
     </message>
     <message>
         <source>The invitation was sent to %1.</source>
-        <translation>L&apos;invito è stato inviato a %1.</translation>
+        <translation>L’invito è stato inviato a %1.</translation>
     </message>
     <message>
         <source>The invitation could not be sent. Check the email address.</source>
-        <translation>Non è stato possibile inviare l&apos;invito. Verifica l&apos;indirizzo e-mail.</translation>
+        <translation>Non è stato possibile inviare l’invito. Verifica l’indirizzo e-mail.</translation>
     </message>
     <message>
         <source>Message (optional)</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>Il permesso di %1 è stato modificato.</translation>
+        <translation>I permessi di %1 sono stati modificati.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Do you want to delete this link? People who have it can no longer open the item.</source>
-        <translation>Vuoi eliminare questo link? Chi lo possiede non potrà più aprire l&apos;elemento.</translation>
+        <translation>Vuoi eliminare questo link? Chi lo possiede non potrà più aprire l’elemento.</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Valido fino al</translation>
+        <translation>Scadenza del link</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source>The administrator has turned off links for this folder.</source>
-        <translation>L&apos;amministratore ha disattivato i link per questa cartella.</translation>
+        <translation>L’amministratore ha disattivato i link per questa cartella.</translation>
     </message>
     <message>
         <source>File request</source>
@@ -1217,7 +1217,7 @@
     </message>
     <message>
         <source>Choose which version to keep. The other one is saved as a conflicted copy.</source>
-        <translation>Scegli quale versione conservare. L&apos;altra viene salvata come copia in conflitto.</translation>
+        <translation>Scegli quale versione conservare. L’altra viene salvata come copia in conflitto.</translation>
     </message>
     <message>
         <source>Keep the version on this computer</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Changed by %1 on %2</source>
-        <translation>Modificato da %1 il %2</translation>
+        <translation>Modificato da %1, %2</translation>
     </message>
     <message>
         <source>When a file was changed in two places</source>
@@ -1305,11 +1305,11 @@
     </message>
     <message>
         <source>&quot;%1&quot; was deleted on Corvimo Server, but you changed it. Your file was kept.</source>
-        <translation>“%1” è stato eliminato su Corvimo Server, ma l&apos;hai modificato. Il tuo file è stato conservato.</translation>
+        <translation>“%1” è stato eliminato su Corvimo Server, ma l’hai modificato. Il tuo file è stato conservato.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a file on one side and a folder on the other. Rename one of them.</source>
-        <translation>“%1” è un file da un lato e una cartella dall&apos;altro. Rinomina uno dei due.</translation>
+        <translation>“%1” è un file da un lato e una cartella dall’altro. Rinomina uno dei due.</translation>
     </message>
     <message>
         <source>Conflicted copies</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
-        <translation>Vuoi eliminare le copie in conflitto (numero: %1)? Non potranno essere recuperate.</translation>
+        <translation>Vuoi eliminare le copie in conflitto (%1)? Non potranno essere recuperate.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open in another program and will be synced when it is closed.</source>
@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>The connection does not work. Check the address and the port.</source>
-        <translation>La connessione non funziona. Verifica l&apos;indirizzo e la porta.</translation>
+        <translation>La connessione non funziona. Verifica l’indirizzo e la porta.</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Non è stato trovato alcun server in questa rete. Inserisci manualmente l&apos;indirizzo.</translation>
+        <translation>Non è stato trovato alcun server in questa rete. Inserisci manualmente l’indirizzo del server.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1445,7 +1445,7 @@
     </message>
     <message>
         <source>The server &quot;%1&quot; was not found. Check the spelling of the address.</source>
-        <translation>Il server “%1” non è stato trovato. Verifica che l&apos;indirizzo sia scritto correttamente.</translation>
+        <translation>Il server “%1” non è stato trovato. Verifica che l’indirizzo sia scritto correttamente.</translation>
     </message>
     <message>
         <source>The server refused the connection. Make sure that Corvimo Server is running.</source>
@@ -1465,7 +1465,7 @@
     </message>
     <message>
         <source>Enter the address of the server.</source>
-        <translation>Inserisci l&apos;indirizzo del server.</translation>
+        <translation>Inserisci l’indirizzo del server.</translation>
     </message>
     <message>
         <source>The Corvimo ID &quot;%1&quot; does not exist.</source>
@@ -1473,7 +1473,7 @@
     </message>
     <message>
         <source>The server with this Corvimo ID is offline. Make sure that it is switched on.</source>
-        <translation>Il server con questo Corvimo ID non è in linea. Assicurati che sia acceso.</translation>
+        <translation>Il server con questo Corvimo ID è offline. Assicurati che sia acceso.</translation>
     </message>
     <message>
         <source>Corvimo Server is not installed or not running on this server.</source>
@@ -1485,7 +1485,7 @@
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
-        <translation>Corvimo Server è troppo vecchio per questo client. Chiedi all&apos;amministratore di aggiornarlo alla versione %1 o successiva.</translation>
+        <translation>Corvimo Server è troppo vecchio per questo client. Chiedi all’amministratore di aggiornarlo alla versione %1 o successiva.</translation>
     </message>
     <message>
         <source>This client is too old for Corvimo Server. Update it to version %1 or later.</source>
@@ -1497,11 +1497,11 @@
     </message>
     <message>
         <source>This computer was blocked after too many failed attempts. Ask the administrator to unblock it.</source>
-        <translation>Questo computer è stato bloccato dopo troppi tentativi non riusciti. Chiedi all&apos;amministratore di sbloccarlo.</translation>
+        <translation>Questo computer è stato bloccato dopo troppi tentativi non riusciti. Chiedi all’amministratore di sbloccarlo.</translation>
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>È possibile che un firewall stia bloccando Corvimo Client. Consentigli di usare la porta %1.</translation>
+        <translation>È possibile che un firewall stia bloccando Corvimo Client. Consenti a Corvimo Client di usare la porta %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1533,7 +1533,7 @@
     </message>
     <message>
         <source>Last connected on %1</source>
-        <translation>Ultima connessione il %1</translation>
+        <translation>Ultima connessione: %1</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -1597,7 +1597,7 @@
     </message>
     <message>
         <source>The proxy %1 cannot be reached. Check its address and port.</source>
-        <translation>Il proxy %1 non è raggiungibile. Verificane l&apos;indirizzo e la porta.</translation>
+        <translation>Il proxy %1 non è raggiungibile. Verificane l’indirizzo e la porta.</translation>
     </message>
     <message>
         <source>The proxy does not allow connections to %1.</source>
@@ -1609,7 +1609,7 @@
     </message>
     <message>
         <source>Enter the address of the proxy.</source>
-        <translation>Inserisci l&apos;indirizzo del proxy.</translation>
+        <translation>Inserisci l’indirizzo del proxy.</translation>
     </message>
     <message>
         <source>Certificate</source>
@@ -1621,7 +1621,7 @@
     </message>
     <message>
         <source>The certificate of %1 was not issued by a known authority. Somebody may be pretending to be your server.</source>
-        <translation>Il certificato di %1 non è stato emesso da un&apos;autorità nota. Qualcuno potrebbe fingere di essere il tuo server.</translation>
+        <translation>Il certificato di %1 non è stato emesso da un’autorità nota. Qualcuno potrebbe fingere di essere il tuo server.</translation>
     </message>
     <message>
         <source>The server uses a certificate that it signed itself.</source>
@@ -1629,11 +1629,11 @@
     </message>
     <message>
         <source>The certificate expired on %1.</source>
-        <translation>Il certificato è scaduto il %1.</translation>
+        <translation>Il certificato è scaduto. Data di scadenza: %1.</translation>
     </message>
     <message>
         <source>The certificate is not valid before %1. Check the clock of this computer.</source>
-        <translation>Il certificato non è valido prima del %1. Verifica l&apos;orologio di questo computer.</translation>
+        <translation>Il certificato non è ancora valido. Inizio della validità: %1. Verifica l’orologio di questo computer.</translation>
     </message>
     <message>
         <source>The certificate was issued for %1, not for %2.</source>
@@ -1641,7 +1641,7 @@
     </message>
     <message>
         <source>The certificate was revoked by the authority that issued it.</source>
-        <translation>Il certificato è stato revocato dall&apos;autorità che l&apos;ha emesso.</translation>
+        <translation>Il certificato è stato revocato dall’autorità che l’ha emesso.</translation>
     </message>
     <message>
         <source>The certificate has changed</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message>
         <source>The certificate of %1 is not the one that was used before. Ask the administrator whether it was renewed.</source>
-        <translation>Il certificato di %1 non è quello usato in precedenza. Chiedi all&apos;amministratore se è stato rinnovato.</translation>
+        <translation>Il certificato di %1 non è quello usato in precedenza. Chiedi all’amministratore se è stato rinnovato.</translation>
     </message>
     <message>
         <source>The certificate uses an algorithm that is no longer considered secure.</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Attendi...</translation>
+        <translation>Calcolo in corso...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1793,7 +1793,7 @@
     </message>
     <message>
         <source>New files cannot be uploaded until you delete some files or ask the administrator for more storage.</source>
-        <translation>Non è possibile caricare nuovi file finché non ne elimini alcuni o non chiedi altro spazio all&apos;amministratore.</translation>
+        <translation>Non è possibile caricare nuovi file finché non ne elimini alcuni o non chiedi altro spazio all’amministratore.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; has reached its quota. New files in it cannot be uploaded.</source>
@@ -1801,7 +1801,7 @@
     </message>
     <message>
         <source>The volume of Corvimo Server is full. Ask the administrator to make room.</source>
-        <translation>Il volume di Corvimo Server è pieno. Chiedi all&apos;amministratore di liberare spazio.</translation>
+        <translation>Il volume di Corvimo Server è pieno. Chiedi all’amministratore di liberare spazio.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is larger than the storage that is left (%2).</source>
@@ -1841,7 +1841,7 @@
     </message>
     <message>
         <source>Downloads pause when less space is left.</source>
-        <translation>I download vengono sospesi quando rimane meno spazio.</translation>
+        <translation>I download vengono messi in pausa quando rimane meno spazio.</translation>
     </message>
     <message>
         <source>The disk with the folder &quot;%1&quot; is not connected. Connect it to continue syncing.</source>
@@ -1897,7 +1897,7 @@
     </message>
     <message>
         <source>At this rate your storage will be full on %1.</source>
-        <translation>Di questo passo il tuo spazio di archiviazione si esaurirà il %1.</translation>
+        <translation>Di questo passo il tuo spazio di archiviazione si esaurirà in questa data: %1.</translation>
     </message>
     <message>
         <source>Ask for more storage</source>
@@ -1905,7 +1905,7 @@
     </message>
     <message>
         <source>Your request was sent to the administrator.</source>
-        <translation>La tua richiesta è stata inviata all&apos;amministratore.</translation>
+        <translation>La tua richiesta è stata inviata all’amministratore.</translation>
     </message>
     <message>
         <source>Your request is waiting for an answer.</source>
@@ -1925,11 +1925,11 @@
     </message>
     <message>
         <source>Check for updates</source>
-        <translation>Verifica aggiornamenti</translation>
+        <translation>Cerca aggiornamenti</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
-        <translation>Verifica degli aggiornamenti...</translation>
+        <translation>Ricerca di aggiornamenti...</translation>
     </message>
     <message>
         <source>Your version is the latest one.</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>The update is ready. Restart Corvimo Client to install it.</source>
-        <translation>L&apos;aggiornamento è pronto. Riavvia Corvimo Client per installarlo.</translation>
+        <translation>L’aggiornamento è pronto. Riavvia Corvimo Client per installarlo.</translation>
     </message>
     <message>
         <source>Restart now</source>
@@ -1965,11 +1965,11 @@
     </message>
     <message>
         <source>The update could not be installed. Your current version keeps working.</source>
-        <translation>Non è stato possibile installare l&apos;aggiornamento. La versione attuale continua a funzionare.</translation>
+        <translation>Non è stato possibile installare l’aggiornamento. La versione attuale continua a funzionare.</translation>
     </message>
     <message>
         <source>Corvimo Client could not check for updates.</source>
-        <translation>Corvimo Client non è riuscito a verificare la disponibilità di aggiornamenti.</translation>
+        <translation>Corvimo Client non è riuscito a cercare aggiornamenti.</translation>
     </message>
     <message>
         <source>Release notes</source>
@@ -1997,11 +1997,11 @@
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
-        <translation>L&apos;aggiornamento richiede %1 di spazio su disco.</translation>
+        <translation>L’aggiornamento richiede %1 di spazio su disco.</translation>
     </message>
     <message>
         <source>This version is no longer supported. Install the update to continue syncing.</source>
-        <translation>Questa versione non è più supportata. Installa l&apos;aggiornamento per continuare la sincronizzazione.</translation>
+        <translation>Questa versione non è più supportata. Installa l’aggiornamento per continuare la sincronizzazione.</translation>
     </message>
     <message>
         <source>Bandwidth</source>
@@ -2081,11 +2081,11 @@
     </message>
     <message>
         <source>The start must be earlier than the end.</source>
-        <translation>L&apos;inizio deve precedere la fine.</translation>
+        <translation>L’inizio deve precedere la fine.</translation>
     </message>
     <message>
         <source>The administrator has limited the speed to %1.</source>
-        <translation>L&apos;amministratore ha limitato la velocità a %1.</translation>
+        <translation>L’amministratore ha limitato la velocità a %1.</translation>
     </message>
     <message>
         <source>Files transferred at the same time</source>
@@ -2225,7 +2225,7 @@
     </message>
     <message>
         <source>%1 files were changed within a short time. If you did not do this, pause syncing and check your computer for malware.</source>
-        <translation>File modificati in poco tempo: %1. Se le modifiche non sono tue, sospendi la sincronizzazione e controlla che sul computer non ci sia malware.</translation>
+        <translation>File modificati in poco tempo: %1. Se le modifiche non sono tue, metti in pausa la sincronizzazione e controlla che sul computer non ci sia malware.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; was moved. Tell Corvimo Client where it is now.</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Il file non può essere scritto. Verificane i permessi.</translation>
+        <translation>Non è possibile scrivere nel file. Verificane i permessi.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2329,11 +2329,11 @@
     </message>
     <message>
         <source>The virus scanner on Corvimo Server has blocked the file.</source>
-        <translation>L&apos;antivirus di Corvimo Server ha bloccato il file.</translation>
+        <translation>L’antivirus di Corvimo Server ha bloccato il file.</translation>
     </message>
     <message>
         <source>The virus scanner on this computer has blocked the file.</source>
-        <translation>L&apos;antivirus di questo computer ha bloccato il file.</translation>
+        <translation>L’antivirus di questo computer ha bloccato il file.</translation>
     </message>
     <message>
         <source>Files of this type are not allowed on Corvimo Server.</source>
@@ -2345,11 +2345,11 @@
     </message>
     <message>
         <source>Symbolic links that point outside the synced folder are not synced.</source>
-        <translation>I link simbolici che puntano all&apos;esterno della cartella sincronizzata non vengono sincronizzati.</translation>
+        <translation>I link simbolici che puntano all’esterno della cartella sincronizzata non vengono sincronizzati.</translation>
     </message>
     <message>
         <source>The alias &quot;%1&quot; points to an item that is not synced.</source>
-        <translation>L&apos;alias “%1” punta a un elemento che non viene sincronizzato.</translation>
+        <translation>L’alias “%1” punta a un elemento che non viene sincronizzato.</translation>
     </message>
     <message>
         <source>The name is too long. Use at most %1 characters.</source>
@@ -2369,11 +2369,11 @@
     </message>
     <message>
         <source>The name ends with a space or a period. Rename the item.</source>
-        <translation>Il nome termina con uno spazio o un punto. Rinomina l&apos;elemento.</translation>
+        <translation>Il nome termina con uno spazio o un punto. Rinomina l’elemento.</translation>
     </message>
     <message>
         <source>The name contains characters that cannot be read. Rename the item.</source>
-        <translation>Il nome contiene caratteri che non possono essere letti. Rinomina l&apos;elemento.</translation>
+        <translation>Il nome contiene caratteri che non possono essere letti. Rinomina l’elemento.</translation>
     </message>
     <message>
         <source>An item named &quot;%1&quot; already exists in this folder.</source>
@@ -2421,7 +2421,7 @@
     </message>
     <message>
         <source>Corvimo Server reported an internal error. Ask the administrator to look at its log.</source>
-        <translation>Corvimo Server ha segnalato un errore interno. Chiedi all&apos;amministratore di controllarne il registro.</translation>
+        <translation>Corvimo Server ha segnalato un errore interno. Chiedi all’amministratore di controllarne il registro.</translation>
     </message>
     <message>
         <source>Corvimo Server accepts no changes at the moment.</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message>
         <source>The sync database is damaged and will be rebuilt. This may take some time.</source>
-        <translation>Il database di sincronizzazione è danneggiato e verrà ricostruito. L&apos;operazione potrebbe richiedere del tempo.</translation>
+        <translation>Il database di sincronizzazione è danneggiato e verrà ricostruito. L’operazione potrebbe richiedere del tempo.</translation>
     </message>
     <message>
         <source>The sync database is used by another program.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>L&apos;orologio di questo computer differisce di oltre %1 minuti da quello del server. Regolalo.</translation>
+        <translation>L’orologio di questo computer differisce di oltre %1 minuti da quello del server. Regola l’orologio di questo computer.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2537,11 +2537,11 @@
     </message>
     <message>
         <source>The action was canceled.</source>
-        <translation>L&apos;azione è stata annullata.</translation>
+        <translation>L’azione è stata annullata.</translation>
     </message>
     <message>
         <source>The action took too long and was stopped.</source>
-        <translation>L&apos;azione ha richiesto troppo tempo ed è stata interrotta.</translation>
+        <translation>L’azione ha richiesto troppo tempo ed è stata interrotta.</translation>
     </message>
     <message>
         <source>An unknown error occurred.</source>
@@ -2573,11 +2573,11 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Se il problema persiste, rivolgiti all&apos;amministratore di Corvimo Server.</translation>
+        <translation>Se il problema persiste, rivolgiti all’amministratore.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
-        <translation>Se il problema persiste, contatta l&apos;assistenza e indica il codice di errore.</translation>
+        <translation>Se il problema persiste, contatta l’assistenza e indica il codice di errore.</translation>
     </message>
     <message>
         <source>Do you want to continue with the remaining files?</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message>
         <source>Sign out</source>
-        <translation>Esci dall&apos;account</translation>
+        <translation>Esci dall’account</translation>
     </message>
     <message>
         <source>Sign in to Corvimo Server</source>
@@ -2605,7 +2605,7 @@
     </message>
     <message>
         <source>Stay signed in</source>
-        <translation>Rimani connesso</translation>
+        <translation>Mantieni l’accesso</translation>
     </message>
     <message>
         <source>Signing in...</source>
@@ -2617,11 +2617,11 @@
     </message>
     <message>
         <source>You are signed out.</source>
-        <translation>Non hai effettuato l&apos;accesso.</translation>
+        <translation>Non hai effettuato l’accesso.</translation>
     </message>
     <message>
         <source>Do you want to sign out? Syncing stops until you sign in again.</source>
-        <translation>Vuoi uscire dall&apos;account? La sincronizzazione si interrompe finché non accedi di nuovo.</translation>
+        <translation>Vuoi uscire dall’account? La sincronizzazione si interrompe finché non accedi di nuovo.</translation>
     </message>
     <message>
         <source>Sign in with your browser</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Inserisci il tuo nome come dominio\utente se il tuo account appartiene a un dominio.</translation>
+        <translation>Inserisci il tuo nome utente nel formato dominio\utente se il tuo account appartiene a un dominio.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2657,7 +2657,7 @@
     </message>
     <message>
         <source>Do you want to remove the account %1 from this computer? Your files stay on this computer and on Corvimo Server.</source>
-        <translation>Vuoi rimuovere l&apos;account %1 da questo computer? I tuoi file rimangono su questo computer e su Corvimo Server.</translation>
+        <translation>Vuoi rimuovere l’account %1 da questo computer? I tuoi file rimangono su questo computer e su Corvimo Server.</translation>
     </message>
     <message>
         <source>Email address</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Nome</translation>
+        <translation>Nome completo</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>L&apos;amministratore ti chiede di cambiare la password.</translation>
+        <translation>L’amministratore richiede di cambiare la password.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2721,15 +2721,15 @@
     </message>
     <message>
         <source>Your account is disabled. Ask the administrator.</source>
-        <translation>Il tuo account è disabilitato. Rivolgiti all&apos;amministratore.</translation>
+        <translation>Il tuo account è disabilitato. Rivolgiti all’amministratore.</translation>
     </message>
     <message>
         <source>Your account has expired. Ask the administrator.</source>
-        <translation>Il tuo account è scaduto. Rivolgiti all&apos;amministratore.</translation>
+        <translation>Il tuo account è scaduto. Rivolgiti all’amministratore.</translation>
     </message>
     <message>
         <source>You do not have permission to use Corvimo Server. Ask the administrator.</source>
-        <translation>Non hai il permesso di usare Corvimo Server. Rivolgiti all&apos;amministratore.</translation>
+        <translation>Non hai il permesso di usare Corvimo Server. Rivolgiti all’amministratore.</translation>
     </message>
     <message>
         <source>Your password has expired. Change it on Corvimo Server.</source>
@@ -2737,11 +2737,11 @@
     </message>
     <message>
         <source>Your home folder is not available. Ask the administrator to turn on the home service.</source>
-        <translation>La tua cartella home non è disponibile. Chiedi all&apos;amministratore di attivare il servizio home.</translation>
+        <translation>La tua cartella home non è disponibile. Chiedi all’amministratore di attivare il servizio home.</translation>
     </message>
     <message>
         <source>The guest account cannot be used for syncing.</source>
-        <translation>L&apos;account ospite non può essere usato per la sincronizzazione.</translation>
+        <translation>L’account ospite non può essere usato per la sincronizzazione.</translation>
     </message>
     <message>
         <source>All licenses of Corvimo Server are in use.</source>
@@ -2753,11 +2753,11 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Dispositivi connessi</translation>
+        <translation>Dispositivi collegati</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
-        <translation>Vuoi scollegare “%1”? Verrà disconnesso dall&apos;account e non verrà più sincronizzato.</translation>
+        <translation>Vuoi scollegare “%1”? Il dispositivo uscirà dall’account e non verrà più sincronizzato.</translation>
     </message>
     <message>
         <source>This computer was unlinked by %1. Sign in again to continue syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Non chiedere più su questo computer per %1 giorni</translation>
+        <translation>Non chiedere più su questo computer per questo numero di giorni: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2817,7 +2817,7 @@
     </message>
     <message>
         <source>The code could not be sent. Ask the administrator for help.</source>
-        <translation>Non è stato possibile inviare il codice. Chiedi aiuto all&apos;amministratore.</translation>
+        <translation>Non è stato possibile inviare il codice. Chiedi aiuto all’amministratore.</translation>
     </message>
     <message>
         <source>Use a recovery code</source>
@@ -2841,11 +2841,11 @@
     </message>
     <message>
         <source>The security key was not recognized. Try another one.</source>
-        <translation>La chiave di sicurezza non è stata riconosciuta. Provane un&apos;altra.</translation>
+        <translation>La chiave di sicurezza non è stata riconosciuta. Provane un’altra.</translation>
     </message>
     <message>
         <source>Approve the sign-in on your phone</source>
-        <translation>Approva l&apos;accesso sul telefono</translation>
+        <translation>Approva l’accesso sul telefono</translation>
     </message>
     <message>
         <source>Waiting for your approval...</source>
@@ -2857,7 +2857,7 @@
     </message>
     <message>
         <source>The sign-in was denied on your phone.</source>
-        <translation>L&apos;accesso è stato negato sul telefono.</translation>
+        <translation>L’accesso è stato negato sul telefono.</translation>
     </message>
     <message>
         <source>The request has expired. Send it again.</source>
@@ -2877,7 +2877,7 @@
     </message>
     <message>
         <source>The code is wrong. Check that the clock of your phone is right.</source>
-        <translation>Il codice non è corretto. Verifica che l&apos;orologio del telefono sia esatto.</translation>
+        <translation>Il codice non è corretto. Verifica che l’orologio del telefono sia esatto.</translation>
     </message>
     <message>
         <source>This code was used before. Wait for the next one.</source>
@@ -2889,11 +2889,11 @@
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
-        <translation>L&apos;amministratore richiede l&apos;accesso in due passaggi. Configuralo prima su Corvimo Server.</translation>
+        <translation>L’amministratore richiede l’accesso in due passaggi. Configuralo prima su Corvimo Server.</translation>
     </message>
     <message>
         <source>Set up two-step sign-in</source>
-        <translation>Configura l&apos;accesso in due passaggi</translation>
+        <translation>Configura l’accesso in due passaggi</translation>
     </message>
     <message>
         <source>Scan this code with your authenticator app.</source>
@@ -2901,7 +2901,7 @@
     </message>
     <message>
         <source>Two-step sign-in is on.</source>
-        <translation>L&apos;accesso in due passaggi è attivo.</translation>
+        <translation>L’accesso in due passaggi è attivo.</translation>
     </message>
     <message>
         <source>Backup tasks</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
-        <translation>Un&apos;attività di backup copia le cartelle di questo computer su Corvimo Server e conserva le versioni precedenti.</translation>
+        <translation>Un’attività di backup copia le cartelle di questo computer su Corvimo Server e conserva le versioni precedenti.</translation>
     </message>
     <message>
         <source>Create backup task</source>
@@ -2925,7 +2925,7 @@
     </message>
     <message>
         <source>Do you want to delete the backup task &quot;%1&quot;?</source>
-        <translation>Vuoi eliminare l&apos;attività di backup “%1”?</translation>
+        <translation>Vuoi eliminare l’attività di backup “%1”?</translation>
     </message>
     <message>
         <source>Delete the backed-up files on Corvimo Server as well</source>
@@ -2933,11 +2933,11 @@
     </message>
     <message>
         <source>Task name</source>
-        <translation>Nome dell&apos;attività</translation>
+        <translation>Nome dell’attività</translation>
     </message>
     <message>
         <source>There is already a task with this name.</source>
-        <translation>Esiste già un&apos;attività con questo nome.</translation>
+        <translation>Esiste già un’attività con questo nome.</translation>
     </message>
     <message>
         <source>What to back up</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Backup in corso, %1 di %2 file</translation>
+        <translation>Backup dei file in corso: %1 di %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Il backup di questo computer non viene eseguito da %1 giorni.</translation>
+        <translation>Giorni dall’ultimo backup di questo computer: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Conserva le ultime %1 versioni</translation>
+        <translation>Numero di versioni da conservare: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Conserva le versioni per %1 giorni</translation>
+        <translation>Giorni di conservazione delle versioni: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>Ripristino di %1 di %2 file</translation>
+        <translation>Ripristino dei file in corso: %1 di %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>File ripristinati: %1, file che non è stato possibile ripristinare: %2.</translation>
+        <translation>File ripristinati: %1. File che non è stato possibile ripristinare: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Verifica</translation>
+        <translation>Verifica backup</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3217,7 +3217,7 @@
     </message>
     <message>
         <source>Contact support</source>
-        <translation>Contatta l&apos;assistenza</translation>
+        <translation>Contatta l’assistenza</translation>
     </message>
     <message>
         <source>Send feedback</source>
@@ -3273,7 +3273,7 @@
     </message>
     <message>
         <source>Send log to support</source>
-        <translation>Invia registro all&apos;assistenza</translation>
+        <translation>Invia registro all’assistenza</translation>
     </message>
     <message>
         <source>Sending the log...</source>
@@ -3317,7 +3317,7 @@
     </message>
     <message>
         <source>Show the icon in the menu bar</source>
-        <translation>Mostra l&apos;icona nella barra dei menu</translation>
+        <translation>Mostra l’icona nella barra dei menu</translation>
     </message>
     <message>
         <source>Language</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Questa impostazione è gestita dall&apos;amministratore.</translation>
+        <translation>Questa impostazione è gestita dall’amministratore.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Attiva file su richiesta</translation>
+        <translation>Attiva “File su richiesta”</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Vuoi attivare i file su richiesta per “%1”? I file già presenti su questo computer rimangono qui.</translation>
+        <translation>Vuoi attivare “File su richiesta” per “%1”? I file già presenti su questo computer rimangono qui.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>I file su richiesta sono attivi.</translation>
+        <translation>La funzione “File su richiesta” è attiva.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Disattiva file su richiesta</translation>
+        <translation>Disattiva “File su richiesta”</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Vuoi disattivare i file su richiesta? Verranno scaricati tutti i file di questa cartella (%1).</translation>
+        <translation>Vuoi disattivare “File su richiesta”? Verranno scaricati tutti i file di questa cartella (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Conserva solo online i file non aperti da %1 giorni</translation>
+        <translation>Conserva solo online i file non aperti da questo numero di giorni: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3465,7 +3465,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be opened because it is online only and Corvimo Client is not connected.</source>
-        <translation>Impossibile aprire “%1” perché è disponibile solo online e Corvimo Client non è connesso.</translation>
+        <translation>Non è possibile aprire “%1” perché è disponibile solo online e Corvimo Client non è connesso.</translation>
     </message>
     <message>
         <source>Start Corvimo Client to open online-only files.</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>I file su richiesta non sono supportati da questa versione del sistema.</translation>
+        <translation>La funzione “File su richiesta” non è supportata da questa versione del sistema.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>I file su richiesta non sono supportati su questo disco.</translation>
+        <translation>La funzione “File su richiesta” non è supportata su questo disco.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Per usare i file su richiesta, consenti l&apos;estensione del fornitore di file nelle impostazioni di sistema.</translation>
+        <translation>Per usare la funzione “File su richiesta”, consenti l’estensione del fornitore di file nelle impostazioni di sistema.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3521,7 +3521,7 @@
     </message>
     <message>
         <source>Enter the address of Corvimo Server and sign in with your account.</source>
-        <translation>Inserisci l&apos;indirizzo di Corvimo Server e accedi con il tuo account.</translation>
+        <translation>Inserisci l’indirizzo di Corvimo Server e accedi con il tuo account.</translation>
     </message>
     <message>
         <source>What do you want to do?</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message>
         <source>Click the icon in the menu bar to see what is going on.</source>
-        <translation>Fai clic sull&apos;icona nella barra dei menu per vedere che cosa sta succedendo.</translation>
+        <translation>Fai clic sull’icona nella barra dei menu per vedere che cosa sta succedendo.</translation>
     </message>
     <message>
         <source>Right-click a file to share it or to see its versions.</source>
@@ -3613,7 +3613,7 @@
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
-        <translation>Sono state trovate le impostazioni di un&apos;installazione precedente. Vuoi usarle?</translation>
+        <translation>Sono state trovate le impostazioni di un’installazione precedente. Vuoi usarle?</translation>
     </message>
     <message>
         <source>%1 B</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 elementi</translation>
+        <translation>Elementi: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3717,7 +3717,7 @@
     </message>
     <message>
         <source>An hour ago</source>
-        <translation>Un&apos;ora fa</translation>
+        <translation>Un’ora fa</translation>
     </message>
     <message>
         <source>%1 hours ago</source>
@@ -3749,19 +3749,19 @@
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 giorni</translation>
+        <translation>%1 g</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>%1 s rimanenti</translation>
+        <translation>Ancora %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>%1 min rimanenti</translation>
+        <translation>Ancora %1 min</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>%1 h rimanenti</translation>
+        <translation>Ancora %1 h</translation>
     </message>
     <message>
         <source>Monday</source>
