@@ -177,7 +177,7 @@
     </message>
     <message>
         <source>Some files could not be synced.</source>
-        <translation>일부 파일을 동기화할 수 없습니다.</translation>
+        <translation>일부 파일을 동기화하지 못했습니다.</translation>
     </message>
     <message>
         <source>No sync task has been set up.</source>
@@ -309,7 +309,7 @@
     </message>
     <message>
         <source>Locked by %1</source>
-        <translation>%1이(가) 잠갔음</translation>
+        <translation>%1 님이 잠금</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is locked. Others can read it but not change it.</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>동기화 작업</translation>
+        <translation>동기화</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>백업 작업</translation>
+        <translation>백업</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Files changed by %2: %1.</source>
-        <translation>%2이(가) 파일 %1개를 변경했습니다.</translation>
+        <translation>%2 님이 파일 %1개를 변경했습니다.</translation>
     </message>
     <message>
         <source>Choose folders to sync</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>“%1” 폴더를 만들 수 없습니다. 다른 이름을 선택하거나 권한을 확인하세요.</translation>
+        <translation>“%1” 폴더를 만들지 못했습니다. 다른 이름을 선택하거나 권한을 확인하세요.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -737,7 +737,7 @@
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
-        <translation>폴더 목록을 불러올 수 없습니다. 연결을 확인한 후 다시 시도하세요.</translation>
+        <translation>폴더 목록을 불러오지 못했습니다. 연결을 확인한 후 다시 시도하세요.</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>문서</translation>
+        <translation>문서 파일</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>사진</translation>
+        <translation>이미지 파일</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>비디오</translation>
+        <translation>비디오 파일</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>음악</translation>
+        <translation>음악 파일</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -909,7 +909,7 @@
     </message>
     <message>
         <source>The version could not be restored. Try again later.</source>
-        <translation>버전을 복원할 수 없습니다. 나중에 다시 시도하세요.</translation>
+        <translation>버전을 복원하지 못했습니다. 나중에 다시 시도하세요.</translation>
     </message>
     <message>
         <source>Restore as a copy</source>
@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>The version could not be deleted.</source>
-        <translation>버전을 삭제할 수 없습니다.</translation>
+        <translation>버전을 삭제하지 못했습니다.</translation>
     </message>
     <message>
         <source>Protected from automatic deletion</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>이 폴더의 버전 기록이 꺼져 있습니다. 켜려면 Corvimo Server 관리자에게 문의하세요.</translation>
+        <translation>이 폴더의 버전 기록이 꺼져 있습니다. 켜려면 관리자에게 문의하세요.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1017,11 +1017,11 @@
     </message>
     <message>
         <source>The invitation was sent to %1.</source>
-        <translation>%1에게 초대를 보냈습니다.</translation>
+        <translation>%1 님에게 초대를 보냈습니다.</translation>
     </message>
     <message>
         <source>The invitation could not be sent. Check the email address.</source>
-        <translation>초대를 보낼 수 없습니다. 이메일 주소를 확인하세요.</translation>
+        <translation>초대를 보내지 못했습니다. 이메일 주소를 확인하세요.</translation>
     </message>
     <message>
         <source>Message (optional)</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>%1의 권한을 변경했습니다.</translation>
+        <translation>%1 님의 권한을 변경했습니다.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1097,7 +1097,7 @@
     </message>
     <message>
         <source>%1 shared &quot;%2&quot; with you.</source>
-        <translation>%1이(가) “%2”을(를) 나와 공유했습니다.</translation>
+        <translation>%1 님이 “%2”을(를) 나와 공유했습니다.</translation>
     </message>
     <message>
         <source>Group</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>만료일</translation>
+        <translation>링크 만료일</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1185,7 +1185,7 @@
     </message>
     <message>
         <source>The link could not be created. Try again later.</source>
-        <translation>링크를 만들 수 없습니다. 나중에 다시 시도하세요.</translation>
+        <translation>링크를 만들지 못했습니다. 나중에 다시 시도하세요.</translation>
     </message>
     <message>
         <source>The administrator has turned off links for this folder.</source>
@@ -1197,7 +1197,7 @@
     </message>
     <message>
         <source>People with the link can upload files to this folder without seeing its contents.</source>
-        <translation>링크가 있는 사용자는 폴더의 내용을 보지 않고 이 폴더에 파일을 업로드할 수 있습니다.</translation>
+        <translation>링크가 있는 사용자는 이 폴더에 파일을 업로드할 수 있지만 폴더의 내용은 볼 수 없습니다.</translation>
     </message>
     <message>
         <source>Show QR code</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Changed by %1 on %2</source>
-        <translation>%1이(가) %2에 변경함</translation>
+        <translation>%1 님이 %2에 변경함</translation>
     </message>
     <message>
         <source>When a file was changed in two places</source>
@@ -1281,7 +1281,7 @@
     </message>
     <message>
         <source>The conflict could not be resolved because the file is open. Close it and try again.</source>
-        <translation>파일이 열려 있어 충돌을 해결할 수 없습니다. 파일을 닫고 다시 시도하세요.</translation>
+        <translation>파일이 열려 있어 충돌을 해결하지 못했습니다. 파일을 닫고 다시 시도하세요.</translation>
     </message>
     <message>
         <source>Resolve</source>
@@ -1305,7 +1305,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; was deleted on Corvimo Server, but you changed it. Your file was kept.</source>
-        <translation>“%1”이(가) Corvimo Server에서 삭제되었지만 사용자가 변경했습니다. 사용자의 파일을 유지했습니다.</translation>
+        <translation>“%1”이(가) Corvimo Server에서 삭제되었지만 이 컴퓨터에서 변경되었습니다. 이 컴퓨터의 파일을 유지했습니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a file on one side and a folder on the other. Rename one of them.</source>
@@ -1405,11 +1405,11 @@
     </message>
     <message>
         <source>Do not sync on metered networks</source>
-        <translation>데이터 통신 연결 네트워크에서 동기화 안 함</translation>
+        <translation>종량제 네트워크에서는 동기화 안 함</translation>
     </message>
     <message>
         <source>Syncing is paused because this network is metered.</source>
-        <translation>데이터 통신 연결 네트워크이므로 동기화가 일시 중지되었습니다.</translation>
+        <translation>종량제 네트워크를 사용하고 있어 동기화가 일시 중지되었습니다.</translation>
     </message>
     <message>
         <source>Connected over the local network</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>이 네트워크에서 서버를 찾을 수 없습니다. 주소를 직접 입력하세요.</translation>
+        <translation>이 네트워크에서 서버를 찾을 수 없습니다. 서버 주소를 직접 입력하세요.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1501,11 +1501,11 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>방화벽이 Corvimo Client를 차단하고 있을 수 있습니다. 포트 %1 사용을 허용하세요.</translation>
+        <translation>방화벽이 Corvimo Client를 차단하고 있을 수 있습니다. Corvimo Client가 포트 %1을(를) 사용하도록 허용하세요.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
-        <translation>보안 연결을 설정할 수 없습니다: %1</translation>
+        <translation>보안 연결을 설정하지 못했습니다: %1</translation>
     </message>
     <message>
         <source>An unknown error occurred (code %1).</source>
@@ -1605,7 +1605,7 @@
     </message>
     <message>
         <source>The proxy settings of this computer could not be read.</source>
-        <translation>이 컴퓨터의 프록시 설정을 읽을 수 없습니다.</translation>
+        <translation>이 컴퓨터의 프록시 설정을 읽지 못했습니다.</translation>
     </message>
     <message>
         <source>Enter the address of the proxy.</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>잠시 기다려 주세요...</translation>
+        <translation>계산 중...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>임시 파일 %1을(를) 삭제했습니다.</translation>
+        <translation>임시 파일을 삭제했습니다(%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1965,11 +1965,11 @@
     </message>
     <message>
         <source>The update could not be installed. Your current version keeps working.</source>
-        <translation>업데이트를 설치할 수 없습니다. 현재 버전을 계속 사용할 수 있습니다.</translation>
+        <translation>업데이트를 설치하지 못했습니다. 현재 버전을 계속 사용할 수 있습니다.</translation>
     </message>
     <message>
         <source>Corvimo Client could not check for updates.</source>
-        <translation>Corvimo Client가 업데이트를 확인할 수 없습니다.</translation>
+        <translation>Corvimo Client가 업데이트를 확인하지 못했습니다.</translation>
     </message>
     <message>
         <source>Release notes</source>
@@ -1993,7 +1993,7 @@
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>이전 버전의 일부 설정을 가져올 수 없습니다. 동기화 작업을 확인하세요.</translation>
+        <translation>이전 버전의 일부 설정을 가져오지 못했습니다. 동기화 작업을 확인하세요.</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2233,7 +2233,7 @@
     </message>
     <message>
         <source>%1 commented on &quot;%2&quot;.</source>
-        <translation>%1이(가) “%2”에 댓글을 남겼습니다.</translation>
+        <translation>%1 님이 “%2”에 댓글을 남겼습니다.</translation>
     </message>
     <message>
         <source>Sync problems</source>
@@ -2241,7 +2241,7 @@
     </message>
     <message>
         <source>These files could not be synced. Corvimo Client will try again when the cause is gone.</source>
-        <translation>이 파일을 동기화할 수 없습니다. 원인이 해결되면 Corvimo Client가 다시 시도합니다.</translation>
+        <translation>이 파일을 동기화하지 못했습니다. 원인이 해결되면 Corvimo Client가 다시 시도합니다.</translation>
     </message>
     <message>
         <source>Problems: %1</source>
@@ -2293,7 +2293,7 @@
     </message>
     <message>
         <source>The file is locked by %1.</source>
-        <translation>%1이(가) 파일을 잠갔습니다.</translation>
+        <translation>%1 님이 파일을 잠갔습니다.</translation>
     </message>
     <message>
         <source>The file was deleted before it could be synced.</source>
@@ -2393,11 +2393,11 @@
     </message>
     <message>
         <source>The folder could not be created.</source>
-        <translation>폴더를 만들 수 없습니다.</translation>
+        <translation>폴더를 만들지 못했습니다.</translation>
     </message>
     <message>
         <source>The folder could not be deleted.</source>
-        <translation>폴더를 삭제할 수 없습니다.</translation>
+        <translation>폴더를 삭제하지 못했습니다.</translation>
     </message>
     <message>
         <source>You do not have permission to change this folder.</source>
@@ -2453,35 +2453,35 @@
     </message>
     <message>
         <source>&quot;%1&quot; could not be uploaded.</source>
-        <translation>“%1”을(를) 업로드할 수 없습니다.</translation>
+        <translation>“%1”을(를) 업로드하지 못했습니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be uploaded: %2</source>
-        <translation>“%1”을(를) 업로드할 수 없습니다: %2</translation>
+        <translation>“%1”을(를) 업로드하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded.</source>
-        <translation>“%1”을(를) 다운로드할 수 없습니다.</translation>
+        <translation>“%1”을(를) 다운로드하지 못했습니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be downloaded: %2</source>
-        <translation>“%1”을(를) 다운로드할 수 없습니다: %2</translation>
+        <translation>“%1”을(를) 다운로드하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be deleted: %2</source>
-        <translation>“%1”을(를) 삭제할 수 없습니다: %2</translation>
+        <translation>“%1”을(를) 삭제하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be renamed: %2</source>
-        <translation>“%1”의 이름을 변경할 수 없습니다: %2</translation>
+        <translation>“%1”의 이름을 변경하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be moved: %2</source>
-        <translation>“%1”을(를) 이동할 수 없습니다: %2</translation>
+        <translation>“%1”을(를) 이동하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be restored: %2</source>
-        <translation>“%1”을(를) 복원할 수 없습니다: %2</translation>
+        <translation>“%1”을(를) 복원하지 못했습니다: %2</translation>
     </message>
     <message>
         <source>Permission denied</source>
@@ -2517,11 +2517,11 @@
     </message>
     <message>
         <source>Your settings could not be read. The defaults are used.</source>
-        <translation>설정을 읽을 수 없습니다. 기본값을 사용합니다.</translation>
+        <translation>설정을 읽지 못했습니다. 기본값을 사용합니다.</translation>
     </message>
     <message>
         <source>Your settings could not be saved.</source>
-        <translation>설정을 저장할 수 없습니다.</translation>
+        <translation>설정을 저장하지 못했습니다.</translation>
     </message>
     <message>
         <source>Changes in some folders may be noticed late because the system watches too many folders.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>이 컴퓨터의 시계가 서버의 시계와 %1분 넘게 차이 납니다. 시간을 올바르게 설정하세요.</translation>
+        <translation>이 컴퓨터의 시계가 서버의 시계와 %1분 넘게 차이 납니다. 이 컴퓨터의 시간을 올바르게 설정하세요.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2549,7 +2549,7 @@
     </message>
     <message>
         <source>Corvimo Client could not be started. Restart this computer and try again.</source>
-        <translation>Corvimo Client를 시작할 수 없습니다. 이 컴퓨터를 재시동한 후 다시 시도하세요.</translation>
+        <translation>Corvimo Client를 시작하지 못했습니다. 이 컴퓨터를 재시동한 후 다시 시도하세요.</translation>
     </message>
     <message>
         <source>Corvimo Client is already running.</source>
@@ -2557,7 +2557,7 @@
     </message>
     <message>
         <source>A component of Corvimo Client is missing. Install the client again.</source>
-        <translation>Corvimo Client의 구성 요소가 없습니다. 클라이언트를 다시 설치하세요.</translation>
+        <translation>Corvimo Client의 일부 구성 요소가 누락되었습니다. 클라이언트를 다시 설치하세요.</translation>
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>문제가 계속되면 Corvimo Server 관리자에게 문의하세요.</translation>
+        <translation>문제가 계속되면 관리자에게 문의하세요.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message>
         <source>The browser could not be opened. Open this address yourself: %1</source>
-        <translation>브라우저를 열 수 없습니다. 다음 주소를 직접 여세요: %1</translation>
+        <translation>브라우저를 열지 못했습니다. 다음 주소를 직접 여세요: %1</translation>
     </message>
     <message>
         <source>Domain</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>계정이 도메인에 속해 있으면 이름을 도메인\사용자 형식으로 입력하세요.</translation>
+        <translation>계정이 도메인에 속해 있으면 사용자 이름을 도메인\사용자 형식으로 입력하세요.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>이름</translation>
+        <translation>전체 이름</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>관리자가 암호 변경을 요청했습니다.</translation>
+        <translation>관리자가 암호 변경을 요구합니다.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2761,7 +2761,7 @@
     </message>
     <message>
         <source>This computer was unlinked by %1. Sign in again to continue syncing.</source>
-        <translation>%1이(가) 이 컴퓨터의 연결을 해제했습니다. 동기화를 계속하려면 다시 로그인하세요.</translation>
+        <translation>%1 님이 이 컴퓨터의 연결을 해제했습니다. 동기화를 계속하려면 다시 로그인하세요.</translation>
     </message>
     <message>
         <source>This computer</source>
@@ -2789,11 +2789,11 @@
     </message>
     <message>
         <source>Verify</source>
-        <translation>검증</translation>
+        <translation>인증</translation>
     </message>
     <message>
         <source>Verifying...</source>
-        <translation>검증 중...</translation>
+        <translation>인증 중...</translation>
     </message>
     <message>
         <source>Trust this device</source>
@@ -2817,7 +2817,7 @@
     </message>
     <message>
         <source>The code could not be sent. Ask the administrator for help.</source>
-        <translation>코드를 보낼 수 없습니다. 관리자에게 도움을 요청하세요.</translation>
+        <translation>코드를 보내지 못했습니다. 관리자에게 도움을 요청하세요.</translation>
     </message>
     <message>
         <source>Use a recovery code</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>백업이 완료되었지만 파일 %1개를 읽을 수 없습니다.</translation>
+        <translation>백업이 완료되었지만 파일 %1개를 읽지 못했습니다.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3101,7 +3101,7 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>마지막 %1개 버전 유지</translation>
+        <translation>최근 버전 %1개 유지</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>파일 %1개를 복원했고 파일 %2개는 복원할 수 없습니다.</translation>
+        <translation>파일 %1개를 복원했고 파일 %2개는 복원하지 못했습니다.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>검증</translation>
+        <translation>백업 검증</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3213,7 +3213,7 @@
     </message>
     <message>
         <source>Website</source>
-        <translation>웹 사이트</translation>
+        <translation>웹사이트</translation>
     </message>
     <message>
         <source>Contact support</source>
@@ -3245,7 +3245,7 @@
     </message>
     <message>
         <source>Detailed logs make the client slower. Go back to the normal level when you are done.</source>
-        <translation>자세한 로그는 클라이언트를 느리게 합니다. 작업이 끝나면 보통 수준으로 되돌리세요.</translation>
+        <translation>자세한 로그를 기록하면 클라이언트가 느려집니다. 작업이 끝나면 보통 수준으로 되돌리세요.</translation>
     </message>
     <message>
         <source>Open log folder</source>
@@ -3261,7 +3261,7 @@
     </message>
     <message>
         <source>The log could not be saved.</source>
-        <translation>로그를 저장할 수 없습니다.</translation>
+        <translation>로그를 저장하지 못했습니다.</translation>
     </message>
     <message>
         <source>Clear log</source>
@@ -3285,7 +3285,7 @@
     </message>
     <message>
         <source>The log could not be sent. Save it and send it by email.</source>
-        <translation>로그를 보낼 수 없습니다. 로그를 저장하여 이메일로 보내세요.</translation>
+        <translation>로그를 보내지 못했습니다. 로그를 저장하여 이메일로 보내세요.</translation>
     </message>
     <message>
         <source>The log contains names of files and folders but not their contents.</source>
@@ -3425,7 +3425,7 @@
     </message>
     <message>
         <source>Files that will be available online only: %1. Do you want to continue?</source>
-        <translation>파일 %1개를 온라인에서만 사용할 수 있게 됩니다. 계속하시겠습니까?</translation>
+        <translation>파일 %1개가 온라인 전용으로 전환됩니다. 계속하시겠습니까?</translation>
     </message>
     <message>
         <source>%1 of disk space was freed.</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>설정을 종료하시겠습니까? 나중에 계속할 수 있습니다.</translation>
+        <translation>설정 과정을 종료하시겠습니까? 나중에 계속할 수 있습니다.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
