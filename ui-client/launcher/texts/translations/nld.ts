@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Looking for changes...</source>
-        <translation>Zoeken naar wijzigingen...</translation>
+        <translation>Bezig met zoeken naar wijzigingen...</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Connecting...</source>
-        <translation>Verbinding maken...</translation>
+        <translation>Verbinding wordt gemaakt...</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Synchronisatietaken</translation>
+        <translation>Synchronisatie</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Back-uptaken</translation>
+        <translation>Back-up</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Syncing is paused. Changes will be synced when you resume.</source>
-        <translation>De synchronisatie is gepauzeerd. Wijzigingen worden gesynchroniseerd wanneer u hervat.</translation>
+        <translation>De synchronisatie is gepauzeerd. Wijzigingen worden gesynchroniseerd wanneer u de synchronisatie hervat.</translation>
     </message>
     <message>
         <source>Clear list</source>
@@ -649,11 +649,11 @@
     </message>
     <message>
         <source>Comparing both folders...</source>
-        <translation>Beide mappen vergelijken...</translation>
+        <translation>Beide mappen worden vergeleken...</translation>
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 van %2 bestanden vergeleken</translation>
+        <translation>Vergeleken bestanden: %1 van %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
-        <translation>Kies wat u op deze computer wilt synchroniseren. Mappen die u uitschakelt, worden van deze computer verwijderd, maar blijven op Corvimo Server staan.</translation>
+        <translation>Kies wat u op deze computer wilt synchroniseren. Mappen die u deselecteert, worden van deze computer verwijderd, maar blijven op Corvimo Server staan.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -733,7 +733,7 @@
     </message>
     <message>
         <source>Loading...</source>
-        <translation>Laden...</translation>
+        <translation>Bezig met laden...</translation>
     </message>
     <message>
         <source>The list of folders could not be loaded. Check your connection and try again.</source>
@@ -789,7 +789,7 @@
     </message>
     <message>
         <source>Temporary files of common programs are never synced.</source>
-        <translation>Tijdelijke bestanden van gangbare programma&apos;s worden nooit gesynchroniseerd.</translation>
+        <translation>Tijdelijke bestanden van gangbare programma’s worden nooit gesynchroniseerd.</translation>
     </message>
     <message>
         <source>Restore defaults</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>Video files</source>
-        <translation>Video&apos;s</translation>
+        <translation>Video’s</translation>
     </message>
     <message>
         <source>Music files</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Previous version</source>
-        <translation>Vorige versie</translation>
+        <translation>Eerdere versie</translation>
     </message>
     <message>
         <source>Version</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server bewaart maximaal %1 versies van een bestand.</translation>
+        <translation>Maximumaantal versies dat Corvimo Server van een bestand bewaart: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>De versiegeschiedenis is voor deze map uitgeschakeld. Vraag de beheerder van Corvimo Server om deze in te schakelen.</translation>
+        <translation>De versiegeschiedenis is voor deze map uitgeschakeld. Vraag de beheerder om deze in te schakelen.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -961,7 +961,7 @@
     </message>
     <message>
         <source>Do you want to restore the selected items (%1)?</source>
-        <translation>Wilt u de %1 geselecteerde onderdelen herstellen?</translation>
+        <translation>Wilt u de geselecteerde onderdelen herstellen (%1)?</translation>
     </message>
     <message>
         <source>Items restored: %1.</source>
@@ -1117,7 +1117,7 @@
     </message>
     <message>
         <source>Creating link...</source>
-        <translation>Link aanmaken...</translation>
+        <translation>Link wordt aangemaakt...</translation>
     </message>
     <message>
         <source>Delete link</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Geldig tot</translation>
+        <translation>Link geldig tot</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1433,11 +1433,11 @@
     </message>
     <message>
         <source>Looking for servers...</source>
-        <translation>Servers zoeken...</translation>
+        <translation>Bezig met zoeken naar servers...</translation>
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Er is geen server op dit netwerk gevonden. Voer het adres zelf in.</translation>
+        <translation>Er is geen server op dit netwerk gevonden. Voer het serveradres zelf in.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Mogelijk blokkeert een firewall Corvimo Client. Sta het gebruik van poort %1 toe.</translation>
+        <translation>Mogelijk blokkeert een firewall Corvimo Client. Sta Corvimo Client toe poort %1 te gebruiken.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Een ogenblik geduld...</translation>
+        <translation>Bezig met berekenen...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1953,7 +1953,7 @@
     </message>
     <message>
         <source>Downloading...</source>
-        <translation>Downloaden...</translation>
+        <translation>Bezig met downloaden...</translation>
     </message>
     <message>
         <source>The update is ready. Restart Corvimo Client to install it.</source>
@@ -1973,7 +1973,7 @@
     </message>
     <message>
         <source>Release notes</source>
-        <translation>Versie-informatie</translation>
+        <translation>Releaseopmerkingen</translation>
     </message>
     <message>
         <source>Install updates automatically</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message>
         <source>Corvimo Client leaves room for other programs that use the network.</source>
-        <translation>Corvimo Client laat ruimte over voor andere programma&apos;s die het netwerk gebruiken.</translation>
+        <translation>Corvimo Client laat ruimte over voor andere programma’s die het netwerk gebruiken.</translation>
     </message>
     <message>
         <source>Schedule</source>
@@ -2045,7 +2045,7 @@
     </message>
     <message>
         <source>At night</source>
-        <translation>&apos;s Nachts</translation>
+        <translation>’s Nachts</translation>
     </message>
     <message>
         <source>From</source>
@@ -2305,7 +2305,7 @@
     </message>
     <message>
         <source>The file was damaged during the transfer. It will be transferred again.</source>
-        <translation>Het bestand is onderweg beschadigd geraakt. Het wordt opnieuw overgedragen.</translation>
+        <translation>Het bestand is tijdens de overdracht beschadigd geraakt. Het wordt opnieuw overgedragen.</translation>
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Het bestand kan niet worden geschreven. Controleer de rechten.</translation>
+        <translation>Er kan niet naar het bestand worden geschreven. Controleer de rechten.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2497,7 +2497,7 @@
     </message>
     <message>
         <source>Not enough memory. Close other programs and try again.</source>
-        <translation>Niet genoeg geheugen. Sluit andere programma&apos;s en probeer het opnieuw.</translation>
+        <translation>Niet genoeg geheugen. Sluit andere programma’s en probeer het opnieuw.</translation>
     </message>
     <message>
         <source>The sync database is damaged and will be rebuilt. This may take some time.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>De klok van deze computer wijkt meer dan %1 minuten af van de klok van de server. Zet de klok gelijk.</translation>
+        <translation>De klok van deze computer wijkt meer dan %1 minuten af van de klok van de server. Zet de klok van deze computer gelijk.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>De statussymbolen kunnen niet worden weergegeven omdat andere programma&apos;s alle plaatsen ervoor gebruiken.</translation>
+        <translation>De statussymbolen kunnen niet worden weergegeven omdat andere programma’s alle beschikbare plaatsen gebruiken.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Als het probleem blijft bestaan, neemt u contact op met de beheerder van Corvimo Server.</translation>
+        <translation>Als het probleem blijft bestaan, neemt u contact op met de beheerder.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Voer uw naam in als domein\gebruiker als uw account bij een domein hoort.</translation>
+        <translation>Voer uw gebruikersnaam in als domein\gebruiker als uw account bij een domein hoort.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Naam</translation>
+        <translation>Volledige naam</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>De beheerder vraagt u uw wachtwoord te wijzigen.</translation>
+        <translation>De beheerder vereist dat u uw wachtwoord wijzigt.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Verbonden apparaten</translation>
+        <translation>Gekoppelde apparaten</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>%1 dagen niet meer vragen op deze computer</translation>
+        <translation>Niet meer vragen op deze computer gedurende dit aantal dagen: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2973,7 +2973,7 @@
     </message>
     <message>
         <source>Videos</source>
-        <translation>Video&apos;s</translation>
+        <translation>Video’s</translation>
     </message>
     <message>
         <source>Downloads</source>
@@ -3053,11 +3053,11 @@
     </message>
     <message>
         <source>Backing up...</source>
-        <translation>Back-up maken...</translation>
+        <translation>Back-up wordt gemaakt...</translation>
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Back-up maken, %1 van %2 bestanden</translation>
+        <translation>Back-up van bestanden wordt gemaakt: %1 van %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Van deze computer is al %1 dagen geen back-up gemaakt.</translation>
+        <translation>Aantal dagen sinds de laatste back-up van deze computer: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>De laatste %1 versies bewaren</translation>
+        <translation>Aantal te bewaren versies: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Versies %1 dagen bewaren</translation>
+        <translation>Aantal dagen dat versies worden bewaard: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3133,11 +3133,11 @@
     </message>
     <message>
         <source>Choose the files to restore and where to put them.</source>
-        <translation>Kies de bestanden die u wilt herstellen en een plaats ervoor.</translation>
+        <translation>Kies welke bestanden u wilt herstellen en waar u ze wilt plaatsen.</translation>
     </message>
     <message>
         <source>Restore to the original location</source>
-        <translation>Herstellen naar de oorspronkelijke plaats</translation>
+        <translation>Herstellen naar de oorspronkelijke locatie</translation>
     </message>
     <message>
         <source>Replace existing files</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>%1 van %2 bestanden herstellen</translation>
+        <translation>Bezig met herstellen van bestanden: %1 van %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>Herstelde bestanden: %1, bestanden die niet konden worden hersteld: %2.</translation>
+        <translation>Herstelde bestanden: %1. Bestanden die niet konden worden hersteld: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Verifiëren</translation>
+        <translation>Back-up verifiëren</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3353,7 +3353,7 @@
     </message>
     <message>
         <source>Move files deleted on Corvimo Server to the trash</source>
-        <translation>Bestanden die op Corvimo Server zijn verwijderd naar de prullenmand verplaatsen</translation>
+        <translation>Bestanden die op Corvimo Server zijn verwijderd, naar de prullenmand verplaatsen</translation>
     </message>
     <message>
         <source>Warn me before many files are deleted</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Deze instelling wordt door uw beheerder beheerd.</translation>
+        <translation>Deze instelling wordt door de beheerder beheerd.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3373,11 +3373,11 @@
     </message>
     <message>
         <source>Do you want to discard your changes?</source>
-        <translation>Wilt u uw wijzigingen negeren?</translation>
+        <translation>Wilt u uw wijzigingen verwerpen?</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation>Negeren</translation>
+        <translation>Verwerpen</translation>
     </message>
     <message>
         <source>On-demand files</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Bestanden op aanvraag inschakelen</translation>
+        <translation>“Bestanden op aanvraag” inschakelen</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Wilt u bestanden op aanvraag inschakelen voor “%1”? Bestanden die al op deze computer staan, blijven hier.</translation>
+        <translation>Wilt u “Bestanden op aanvraag” inschakelen voor “%1”? Bestanden die al op deze computer staan, blijven hier.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Bestanden op aanvraag is ingeschakeld.</translation>
+        <translation>“Bestanden op aanvraag” is ingeschakeld.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Bestanden op aanvraag uitschakelen</translation>
+        <translation>“Bestanden op aanvraag” uitschakelen</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Wilt u bestanden op aanvraag uitschakelen? Alle bestanden in deze map worden gedownload (%1).</translation>
+        <translation>Wilt u “Bestanden op aanvraag” uitschakelen? Alle bestanden in deze map worden gedownload (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Bestanden die %1 dagen niet zijn geopend alleen online bewaren</translation>
+        <translation>Bestanden alleen online bewaren als ze dit aantal dagen niet zijn geopend: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3473,19 +3473,19 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Bestanden op aanvraag wordt niet ondersteund door deze versie van het systeem.</translation>
+        <translation>“Bestanden op aanvraag” wordt niet ondersteund door deze versie van het systeem.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Bestanden op aanvraag wordt niet ondersteund op deze schijf.</translation>
+        <translation>“Bestanden op aanvraag” wordt niet ondersteund op deze schijf.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Sta de extensie voor bestandsaanbieders toe in de systeeminstellingen om bestanden op aanvraag te gebruiken.</translation>
+        <translation>Sta de extensie voor bestandsaanbieders toe in de systeeminstellingen om “Bestanden op aanvraag” te gebruiken.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
-        <translation>Voorvertoningen van bestanden die alleen online beschikbaar zijn weergeven</translation>
+        <translation>Voorvertoningen weergeven van bestanden die alleen online beschikbaar zijn</translation>
     </message>
     <message>
         <source>The contents of online-only files cannot be searched on this computer.</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Wilt u de configuratie verlaten? U kunt later verdergaan.</translation>
+        <translation>Wilt u de configuratie afbreken? U kunt later verdergaan.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 onderdelen</translation>
+        <translation>Onderdelen: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3749,7 +3749,7 @@
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 dagen</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
