@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Renamed</source>
-        <translation>Navn endret</translation>
+        <translation>Gitt nytt navn</translation>
     </message>
     <message>
         <source>Moved</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Syncing, files left: %1</source>
-        <translation>Synkroniserer, %1 filer gjenstår</translation>
+        <translation>Synkroniserer, gjenstående filer: %1</translation>
     </message>
     <message>
         <source>Uploading %1</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Synkroniseringsoppgaver</translation>
+        <translation>Synkronisering</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Sikkerhetskopieringsoppgaver</translation>
+        <translation>Sikkerhetskopiering</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Files changed by %2: %1.</source>
-        <translation>%1 filer ble endret av %2.</translation>
+        <translation>Filer endret av %2: %1.</translation>
     </message>
     <message>
         <source>Choose folders to sync</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>Mappen «%1» kunne ikke opprettes. Velg et annet navn, eller kontroller tillatelsen din.</translation>
+        <translation>Mappen «%1» kunne ikke opprettes. Velg et annet navn, eller kontroller tillatelsene dine.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 av %2 filer sammenlignet</translation>
+        <translation>Sammenlignede filer: %1 av %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
-        <translation>%1 mapper blir fjernet fra denne datamaskinen. De blir værende på Corvimo Server.</translation>
+        <translation>Mapper som blir fjernet fra denne datamaskinen: %1. De blir værende på Corvimo Server.</translation>
     </message>
     <message>
         <source>Remove folders from this computer?</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>Do not sync files with these extensions</source>
-        <translation>Ikke synkroniser filer med disse filtypene</translation>
+        <translation>Ikke synkroniser filer med disse filetternavnene</translation>
     </message>
     <message>
         <source>Do not sync files with these names</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>Add extension</source>
-        <translation>Legg til filtype</translation>
+        <translation>Legg til filetternavn</translation>
     </message>
     <message>
         <source>Add name</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Enter an extension, for example &quot;iso&quot;.</source>
-        <translation>Oppgi en filtype, for eksempel «iso».</translation>
+        <translation>Oppgi et filetternavn, for eksempel «iso».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is already in the list.</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>Ikke synkronisert på grunn av filter</translation>
+        <translation>Utelatt av filter</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>Dokumenter</translation>
+        <translation>Dokumentfiler</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Bilder</translation>
+        <translation>Bildefiler</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Videoer</translation>
+        <translation>Videofiler</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Musikk</translation>
+        <translation>Musikkfiler</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server beholder opptil %1 versjoner av en fil.</translation>
+        <translation>Største antall versjoner av en fil som Corvimo Server beholder: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>Versjonshistorikk er slått av for denne mappen. Be administratoren for Corvimo Server om å slå den på.</translation>
+        <translation>Versjonshistorikk er slått av for denne mappen. Be administratoren om å slå den på.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Items restored: %1.</source>
-        <translation>%1 objekter ble gjenopprettet.</translation>
+        <translation>Gjenopprettede objekter: %1.</translation>
     </message>
     <message>
         <source>No deleted files were found.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>Tillatelsen for %1 ble endret.</translation>
+        <translation>Tillatelsene for %1 ble endret.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>People with access: %1</source>
-        <translation>Delt med %1 personer</translation>
+        <translation>Personer med tilgang: %1</translation>
     </message>
     <message>
         <source>This item is not shared.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Gyldig til</translation>
+        <translation>Lenken er gyldig til</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Downloads left: %1</source>
-        <translation>%1 nedlastinger gjenstår</translation>
+        <translation>Gjenstående nedlastinger: %1</translation>
     </message>
     <message>
         <source>Allow downloading</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; and &quot;%2&quot; differ only in upper and lower case. Rename one of them.</source>
-        <translation>«%1» og «%2» skiller seg bare i store og små bokstaver. Gi en av dem nytt navn.</translation>
+        <translation>«%1» og «%2» er like bortsett fra store og små bokstaver. Gi en av dem nytt navn.</translation>
     </message>
     <message>
         <source>There are no conflicts.</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
-        <translation>Vil du slette %1 konfliktkopier? De kan ikke hentes tilbake.</translation>
+        <translation>Vil du slette konfliktkopiene (%1)? De kan ikke hentes tilbake.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open in another program and will be synced when it is closed.</source>
@@ -1353,7 +1353,7 @@
     </message>
     <message>
         <source>Without encryption, others on the network can read your files and your password.</source>
-        <translation>Uten kryptering kan andre på nettverket lese filene og passordet ditt.</translation>
+        <translation>Uten kryptering kan andre på nettverket lese filene dine og passordet ditt.</translation>
     </message>
     <message>
         <source>Connect</source>
@@ -1437,11 +1437,11 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Fant ingen server på dette nettverket. Oppgi adressen selv.</translation>
+        <translation>Fant ingen server på dette nettverket. Oppgi serveradressen selv.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
-        <translation>%1 servere funnet</translation>
+        <translation>Servere funnet: %1</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; was not found. Check the spelling of the address.</source>
@@ -1469,11 +1469,11 @@
     </message>
     <message>
         <source>The Corvimo ID &quot;%1&quot; does not exist.</source>
-        <translation>Corvimo ID «%1» finnes ikke.</translation>
+        <translation>Corvimo ID-en «%1» finnes ikke.</translation>
     </message>
     <message>
         <source>The server with this Corvimo ID is offline. Make sure that it is switched on.</source>
-        <translation>Serveren med denne Corvimo ID er frakoblet. Kontroller at den er slått på.</translation>
+        <translation>Serveren med denne Corvimo ID-en er frakoblet. Kontroller at den er slått på.</translation>
     </message>
     <message>
         <source>Corvimo Server is not installed or not running on this server.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>Serveren er under vedlikehold. Synkroniseringen fortsetter når den er tilbake.</translation>
+        <translation>Serveren er under vedlikehold. Synkroniseringen fortsetter når serveren er tilgjengelig igjen.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>En brannmur blokkerer kanskje Corvimo Client. Tillat at port %1 brukes.</translation>
+        <translation>En brannmur blokkerer kanskje Corvimo Client. La Corvimo Client bruke port %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>Files not uploaded yet: %1.</source>
-        <translation>%1 filer er ikke lastet opp ennå.</translation>
+        <translation>Filer som ikke er lastet opp ennå: %1.</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -1729,7 +1729,7 @@
     </message>
     <message>
         <source>Storage</source>
-        <translation>Lagring</translation>
+        <translation>Lagringsplass</translation>
     </message>
     <message>
         <source>%1 of %2 used</source>
@@ -1745,27 +1745,27 @@
     </message>
     <message>
         <source>Storage on Corvimo Server</source>
-        <translation>Lagring på Corvimo Server</translation>
+        <translation>Lagringsplass på Corvimo Server</translation>
     </message>
     <message>
         <source>Storage on this computer</source>
-        <translation>Lagring på denne datamaskinen</translation>
+        <translation>Lagringsplass på denne datamaskinen</translation>
     </message>
     <message>
         <source>Storage by type of file</source>
-        <translation>Lagring etter filtype</translation>
+        <translation>Lagringsplass etter filtype</translation>
     </message>
     <message>
         <source>Storage by folder</source>
-        <translation>Lagring etter mappe</translation>
+        <translation>Lagringsplass etter mappe</translation>
     </message>
     <message>
         <source>Storage used by previous versions</source>
-        <translation>Lagring brukt av tidligere versjoner</translation>
+        <translation>Lagringsplass brukt av tidligere versjoner</translation>
     </message>
     <message>
         <source>Storage used by deleted files</source>
-        <translation>Lagring brukt av slettede filer</translation>
+        <translation>Lagringsplass brukt av slettede filer</translation>
     </message>
     <message>
         <source>Empty trash</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Vent litt...</translation>
+        <translation>Beregner...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 med midlertidige filer ble slettet.</translation>
+        <translation>Midlertidige filer ble slettet (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -2161,7 +2161,7 @@
     </message>
     <message>
         <source>No notifications until %1</source>
-        <translation>Ingen varslinger til %1</translation>
+        <translation>Ingen varslinger frem til %1</translation>
     </message>
     <message>
         <source>Do not disturb me during presentations</source>
@@ -2205,7 +2205,7 @@
     </message>
     <message>
         <source>New notifications: %1</source>
-        <translation>%1 nye varslinger</translation>
+        <translation>Nye varslinger: %1</translation>
     </message>
     <message>
         <source>All files are up to date.</source>
@@ -2213,7 +2213,7 @@
     </message>
     <message>
         <source>The first sync is complete. Files now on this computer: %1.</source>
-        <translation>Den første synkroniseringen er fullført. %1 filer er nå på denne datamaskinen.</translation>
+        <translation>Den første synkroniseringen er fullført. Filer som nå er på denne datamaskinen: %1.</translation>
     </message>
     <message>
         <source>Many files were deleted</source>
@@ -2245,7 +2245,7 @@
     </message>
     <message>
         <source>Problems: %1</source>
-        <translation>%1 problemer</translation>
+        <translation>Problemer: %1</translation>
     </message>
     <message>
         <source>There are no problems.</source>
@@ -2305,7 +2305,7 @@
     </message>
     <message>
         <source>The file was damaged during the transfer. It will be transferred again.</source>
-        <translation>Filen ble skadet underveis. Den overføres på nytt.</translation>
+        <translation>Filen ble skadet under overføringen. Den overføres på nytt.</translation>
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Filen kan ikke skrives. Kontroller tillatelsene for filen.</translation>
+        <translation>Det er ikke mulig å skrive til filen. Kontroller tillatelsene for filen.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message>
         <source>The folder was not deleted because it contains files that are not synced.</source>
-        <translation>Mappen ble ikke slettet fordi den inneholder filer som ikke er synkronisert.</translation>
+        <translation>Mappen ble ikke slettet fordi den inneholder filer som ikke synkroniseres.</translation>
     </message>
     <message>
         <source>The folder could not be created.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Klokken på denne datamaskinen avviker fra klokken på serveren med mer enn %1 minutter. Still den riktig.</translation>
+        <translation>Klokken på denne datamaskinen avviker fra klokken på serveren med mer enn %1 minutter. Still klokken på denne datamaskinen.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Statussymbolene kan ikke vises fordi andre programmer bruker alle plassene for dem.</translation>
+        <translation>Statussymbolene kan ikke vises fordi andre programmer allerede bruker alle tilgjengelige symbolplasser.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Spør administratoren for Corvimo Server hvis problemet vedvarer.</translation>
+        <translation>Spør administratoren hvis problemet vedvarer.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Oppgi navnet ditt som domene\bruker hvis kontoen din tilhører et domene.</translation>
+        <translation>Oppgi brukernavnet ditt som domene\bruker hvis kontoen din tilhører et domene.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Navn</translation>
+        <translation>Fullt navn</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,11 +2689,11 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Administratoren ber deg endre passordet ditt.</translation>
+        <translation>Administratoren krever at du endrer passordet ditt.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
-        <translation>Passordet ditt utløper om %1 dager.</translation>
+        <translation>Dager til passordet ditt utløper: %1.</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
@@ -2737,7 +2737,7 @@
     </message>
     <message>
         <source>Your home folder is not available. Ask the administrator to turn on the home service.</source>
-        <translation>Hjemmemappen din er ikke tilgjengelig. Be administratoren om å slå på hjemmetjenesten.</translation>
+        <translation>Hjemmemappen din er ikke tilgjengelig. Be administratoren om å slå på tjenesten for hjemmemapper.</translation>
     </message>
     <message>
         <source>The guest account cannot be used for syncing.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Tilkoblede enheter</translation>
+        <translation>Tilknyttede enheter</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Ikke spør igjen på denne datamaskinen på %1 dager</translation>
+        <translation>Ikke spør igjen på denne datamaskinen på så mange dager: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2829,7 +2829,7 @@
     </message>
     <message>
         <source>Recovery codes left: %1.</source>
-        <translation>Du har %1 gjenopprettingskoder igjen.</translation>
+        <translation>Gjenstående gjenopprettingskoder: %1.</translation>
     </message>
     <message>
         <source>Use a security key</source>
@@ -2885,7 +2885,7 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>For mange feil koder. Vent %1 minutter, og prøv på nytt.</translation>
+        <translation>For mange feil koder. Minutter til du kan prøve på nytt: %1.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Sikkerhetskopierer, %1 av %2 filer</translation>
+        <translation>Sikkerhetskopierer filer: %1 av %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>Sikkerhetskopieringen er fullført, men %1 filer kunne ikke leses.</translation>
+        <translation>Sikkerhetskopieringen er fullført. Filer som ikke kunne leses: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Denne datamaskinen er ikke sikkerhetskopiert på %1 dager.</translation>
+        <translation>Dager siden siste sikkerhetskopiering av denne datamaskinen: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Behold de siste %1 versjonene</translation>
+        <translation>Antall versjoner som beholdes: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Behold versjoner i %1 dager</translation>
+        <translation>Antall dager versjoner beholdes: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>Gjenoppretter %1 av %2 filer</translation>
+        <translation>Gjenoppretter filer: %1 av %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>%1 filer ble gjenopprettet, %2 filer kunne ikke gjenopprettes.</translation>
+        <translation>Gjenopprettede filer: %1. Filer som ikke kunne gjenopprettes: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Bekreft</translation>
+        <translation>Kontroller sikkerhetskopien</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3165,7 +3165,7 @@
     </message>
     <message>
         <source>Damaged files in the backup: %1. They will be backed up again.</source>
-        <translation>%1 filer i sikkerhetskopien er skadet. De blir sikkerhetskopiert på nytt.</translation>
+        <translation>Skadede filer i sikkerhetskopien: %1. De blir sikkerhetskopiert på nytt.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -3349,7 +3349,7 @@
     </message>
     <message>
         <source>Do not sleep while files are being synced</source>
-        <translation>Ikke gå i dvale mens filer synkroniseres</translation>
+        <translation>Ikke la datamaskinen gå i dvale mens filer synkroniseres</translation>
     </message>
     <message>
         <source>Move files deleted on Corvimo Server to the trash</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Slå på filer ved behov</translation>
+        <translation>Bruk «Filer ved behov»</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Vil du slå på filer ved behov for «%1»? Filer som allerede er på denne datamaskinen, blir værende her.</translation>
+        <translation>Vil du bruke «Filer ved behov» for «%1»? Filer som allerede er på denne datamaskinen, blir værende her.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Filer ved behov er på.</translation>
+        <translation>«Filer ved behov» er slått på.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Slå av filer ved behov</translation>
+        <translation>Slå av «Filer ved behov»</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Vil du slå av filer ved behov? Alle filene i denne mappen blir lastet ned (%1).</translation>
+        <translation>Vil du slå av «Filer ved behov»? Alle filene i denne mappen blir lastet ned (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3425,7 +3425,7 @@
     </message>
     <message>
         <source>Files that will be available online only: %1. Do you want to continue?</source>
-        <translation>%1 filer blir bare tilgjengelige på nettet. Vil du fortsette?</translation>
+        <translation>Filer som blir tilgjengelige bare på nettet: %1. Vil du fortsette?</translation>
     </message>
     <message>
         <source>%1 of disk space was freed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Filer som ikke er åpnet på %1 dager, blir bare tilgjengelige på nettet</translation>
+        <translation>Gjør filer tilgjengelige bare på nettet når de ikke er åpnet på så mange dager: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3457,7 +3457,7 @@
     </message>
     <message>
         <source>Block downloads by this program</source>
-        <translation>Blokker nedlastinger fra dette programmet</translation>
+        <translation>Ikke la dette programmet laste ned filer</translation>
     </message>
     <message>
         <source>A program is opening many online-only files. Do you want to allow it?</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Filer ved behov støttes ikke av denne versjonen av systemet.</translation>
+        <translation>«Filer ved behov» støttes ikke av denne versjonen av systemet.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Filer ved behov støttes ikke på denne disken.</translation>
+        <translation>«Filer ved behov» støttes ikke på denne disken.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Tillat filleverandørutvidelsen i systeminnstillingene for å bruke filer ved behov.</translation>
+        <translation>Tillat filleverandørutvidelsen i systeminnstillingene for å bruke «Filer ved behov».</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3489,7 +3489,7 @@
     </message>
     <message>
         <source>The contents of online-only files cannot be searched on this computer.</source>
-        <translation>Innholdet i filer som bare finnes på nettet, kan ikke søkes i på denne datamaskinen.</translation>
+        <translation>På denne datamaskinen kan du ikke søke i innholdet i filer som bare finnes på nettet.</translation>
     </message>
     <message>
         <source>Allow</source>
@@ -3557,7 +3557,7 @@
     </message>
     <message>
         <source>You are not a member of any team folder.</source>
-        <translation>Du er ikke medlem av en teammappe.</translation>
+        <translation>Du er ikke medlem av noen teammappe.</translation>
     </message>
     <message>
         <source>Sync options</source>
@@ -3581,7 +3581,7 @@
     </message>
     <message>
         <source>Files to download: %1 (%2).</source>
-        <translation>%1 filer (%2) blir lastet ned.</translation>
+        <translation>Filer som blir lastet ned: %1 (%2).</translation>
     </message>
     <message>
         <source>You are all set</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Vil du forlate konfigureringen? Du kan fortsette senere.</translation>
+        <translation>Vil du avslutte konfigureringen? Du kan fortsette senere.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 byte</translation>
+        <translation>%1 byte</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/s</translation>
+        <translation>%1 KB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 prosent</translation>
+        <translation>%1 prosent</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 objekter</translation>
+        <translation>Objekter: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3673,7 +3673,7 @@
     </message>
     <message>
         <source>Files: %1, folders: %2</source>
-        <translation>%1 filer, %2 mapper</translation>
+        <translation>Filer: %1, mapper: %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 sekunder</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 minutter</translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 timer</translation>
+        <translation>%1 t</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 dager</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>%1 sekunder igjen</translation>
+        <translation>%1 s igjen</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>%1 minutter igjen</translation>
+        <translation>%1 min igjen</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>%1 timer igjen</translation>
+        <translation>%1 t igjen</translation>
     </message>
     <message>
         <source>Monday</source>
