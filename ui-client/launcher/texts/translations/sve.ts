@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>Up to date</source>
-        <translation>Uppdaterat</translation>
+        <translation>Uppdaterad</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Syncing, files left: %1</source>
-        <translation>Synkroniserar, %1 filer kvar</translation>
+        <translation>Synkroniserar, filer kvar: %1</translation>
     </message>
     <message>
         <source>Uploading %1</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>No sync task has been set up.</source>
-        <translation>Ingen synkroniseringsuppgift har ställts in.</translation>
+        <translation>Ingen synkroniseringsuppgift har konfigurerats.</translation>
     </message>
     <message>
         <source>%1 up, %2 down</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Synkroniseringsuppgifter</translation>
+        <translation>Synkronisering</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Säkerhetskopieringsuppgifter</translation>
+        <translation>Säkerhetskopiering</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Files changed by %2: %1.</source>
-        <translation>%1 filer ändrades av %2.</translation>
+        <translation>Filer ändrade av %2: %1.</translation>
     </message>
     <message>
         <source>Choose folders to sync</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>Mappen ”%1” kunde inte skapas. Välj ett annat namn eller kontrollera din behörighet.</translation>
+        <translation>Mappen ”%1” kunde inte skapas. Välj ett annat namn eller kontrollera dina behörigheter.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 av %2 filer jämförda</translation>
+        <translation>Jämförda filer: %1 av %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
-        <translation>%1 mappar tas bort från den här datorn. De finns kvar på Corvimo Server.</translation>
+        <translation>Mappar som tas bort från den här datorn: %1. De finns kvar på Corvimo Server.</translation>
     </message>
     <message>
         <source>Remove folders from this computer?</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>Synkroniseras inte på grund av filter</translation>
+        <translation>Utesluts av filter</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>Dokument</translation>
+        <translation>Dokumentfiler</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Bilder</translation>
+        <translation>Bildfiler</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Videor</translation>
+        <translation>Videofiler</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Musik</translation>
+        <translation>Musikfiler</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>Corvimo Server behåller upp till %1 versioner av en fil.</translation>
+        <translation>Största antal versioner av en fil som Corvimo Server behåller: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>Versionshistorik är avstängd för den här mappen. Be administratören för Corvimo Server att slå på den.</translation>
+        <translation>Versionshistorik är avstängd för den här mappen. Be administratören att slå på den.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Items restored: %1.</source>
-        <translation>%1 objekt återställdes.</translation>
+        <translation>Återställda objekt: %1.</translation>
     </message>
     <message>
         <source>No deleted files were found.</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>Behörigheten för %1 ändrades.</translation>
+        <translation>Behörigheterna för %1 ändrades.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>People with access: %1</source>
-        <translation>Delat med %1 personer</translation>
+        <translation>Personer med åtkomst: %1</translation>
     </message>
     <message>
         <source>This item is not shared.</source>
@@ -1153,11 +1153,11 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Giltig till</translation>
+        <translation>Länken gäller till</translation>
     </message>
     <message>
         <source>Never expires</source>
-        <translation>Upphör aldrig</translation>
+        <translation>Upphör aldrig att gälla</translation>
     </message>
     <message>
         <source>Choose a date in the future.</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Downloads left: %1</source>
-        <translation>%1 nedladdningar kvar</translation>
+        <translation>Nedladdningar kvar: %1</translation>
     </message>
     <message>
         <source>Allow downloading</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
-        <translation>Vill du radera %1 konfliktkopior? De kan inte återskapas.</translation>
+        <translation>Vill du radera konfliktkopiorna (%1)? De kan inte återskapas.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open in another program and will be synced when it is closed.</source>
@@ -1405,7 +1405,7 @@
     </message>
     <message>
         <source>Do not sync on metered networks</source>
-        <translation>Synkronisera inte i nätverk med datapriser</translation>
+        <translation>Synkronisera inte i nätverk som debiteras efter dataanvändning</translation>
     </message>
     <message>
         <source>Syncing is paused because this network is metered.</source>
@@ -1437,11 +1437,11 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Ingen server hittades i det här nätverket. Ange dess adress själv.</translation>
+        <translation>Ingen server hittades i det här nätverket. Ange serveradressen själv.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
-        <translation>%1 servrar hittades</translation>
+        <translation>Hittade servrar: %1</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; was not found. Check the spelling of the address.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>Underhåll pågår på servern. Synkroniseringen fortsätter när den är tillbaka.</translation>
+        <translation>Underhåll pågår på servern. Synkroniseringen fortsätter när servern är tillgänglig igen.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>En brandvägg kan blockera Corvimo Client. Tillåt att port %1 används.</translation>
+        <translation>En brandvägg blockerar kanske Corvimo Client. Tillåt Corvimo Client att använda port %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>Files not uploaded yet: %1.</source>
-        <translation>%1 filer har inte laddats upp ännu.</translation>
+        <translation>Filer som inte har laddats upp ännu: %1.</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -1553,7 +1553,7 @@
     </message>
     <message>
         <source>Set up the proxy yourself</source>
-        <translation>Ställ in proxyn själv</translation>
+        <translation>Konfigurera proxyn själv</translation>
     </message>
     <message>
         <source>Proxy type</source>
@@ -1665,7 +1665,7 @@
     </message>
     <message>
         <source>Trust this time only</source>
-        <translation>Lita endast på det den här gången</translation>
+        <translation>Lita på det endast den här gången</translation>
     </message>
     <message>
         <source>Do not connect</source>
@@ -1685,11 +1685,11 @@
     </message>
     <message>
         <source>Valid from</source>
-        <translation>Giltigt från</translation>
+        <translation>Gäller från</translation>
     </message>
     <message>
         <source>Valid until</source>
-        <translation>Giltig till</translation>
+        <translation>Gäller till</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Vänta...</translation>
+        <translation>Beräknar...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 temporära filer raderades.</translation>
+        <translation>Temporära filer raderades (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1985,15 +1985,15 @@
     </message>
     <message>
         <source>Your settings are being imported from the earlier version.</source>
-        <translation>Dina inställningar tas över från den tidigare versionen.</translation>
+        <translation>Dina inställningar överförs från den tidigare versionen.</translation>
     </message>
     <message>
         <source>Your settings were imported. You can continue where you left off.</source>
-        <translation>Dina inställningar har tagits över. Du kan fortsätta där du slutade.</translation>
+        <translation>Dina inställningar har överförts. Du kan fortsätta där du slutade.</translation>
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>En del inställningar från den tidigare versionen kunde inte tas över. Kontrollera dina synkroniseringsuppgifter.</translation>
+        <translation>En del inställningar från den tidigare versionen kunde inte överföras. Kontrollera dina synkroniseringsuppgifter.</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2161,7 +2161,7 @@
     </message>
     <message>
         <source>No notifications until %1</source>
-        <translation>Inga notiser till %1</translation>
+        <translation>Inga notiser förrän %1</translation>
     </message>
     <message>
         <source>Do not disturb me during presentations</source>
@@ -2205,7 +2205,7 @@
     </message>
     <message>
         <source>New notifications: %1</source>
-        <translation>%1 nya notiser</translation>
+        <translation>Nya notiser: %1</translation>
     </message>
     <message>
         <source>All files are up to date.</source>
@@ -2213,7 +2213,7 @@
     </message>
     <message>
         <source>The first sync is complete. Files now on this computer: %1.</source>
-        <translation>Den första synkroniseringen är klar. %1 filer finns nu på den här datorn.</translation>
+        <translation>Den första synkroniseringen är klar. Filer som nu finns på den här datorn: %1.</translation>
     </message>
     <message>
         <source>Many files were deleted</source>
@@ -2245,7 +2245,7 @@
     </message>
     <message>
         <source>Problems: %1</source>
-        <translation>%1 problem</translation>
+        <translation>Problem: %1</translation>
     </message>
     <message>
         <source>There are no problems.</source>
@@ -2449,7 +2449,7 @@
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
-        <translation>Data på Corvimo Server har nollställts. Ställ in dina synkroniseringsuppgifter på nytt.</translation>
+        <translation>Data på Corvimo Server har nollställts. Konfigurera dina synkroniseringsuppgifter på nytt.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be uploaded.</source>
@@ -2485,7 +2485,7 @@
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>Behörighet nekas</translation>
+        <translation>Åtkomst nekad</translation>
     </message>
     <message>
         <source>The disk reported a read or write error. Check the disk for faults.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Den här datorns klocka skiljer sig från serverns klocka med mer än %1 minuter. Ställ den rätt.</translation>
+        <translation>Den här datorns klocka skiljer sig från serverns klocka med mer än %1 minuter. Ställ den här datorns klocka rätt.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Statussymbolerna kan inte visas eftersom andra program använder alla platser för dem.</translation>
+        <translation>Statussymbolerna kan inte visas eftersom andra program redan använder alla tillgängliga symbolplatser.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Fråga administratören för Corvimo Server om problemet kvarstår.</translation>
+        <translation>Fråga administratören om problemet kvarstår.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Ange ditt namn som domän\användare om ditt konto tillhör en domän.</translation>
+        <translation>Ange ditt användarnamn som domän\användare om ditt konto tillhör en domän.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Namn</translation>
+        <translation>Fullständigt namn</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,11 +2689,11 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Administratören ber dig att byta lösenord.</translation>
+        <translation>Administratören kräver att du byter lösenord.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
-        <translation>Ditt lösenord upphör att gälla om %1 dagar.</translation>
+        <translation>Dagar tills ditt lösenord upphör att gälla: %1.</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
@@ -2737,7 +2737,7 @@
     </message>
     <message>
         <source>Your home folder is not available. Ask the administrator to turn on the home service.</source>
-        <translation>Din hemmapp är inte tillgänglig. Be administratören att slå på hemtjänsten.</translation>
+        <translation>Din hemmapp är inte tillgänglig. Be administratören att slå på tjänsten för hemmappar.</translation>
     </message>
     <message>
         <source>The guest account cannot be used for syncing.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Anslutna enheter</translation>
+        <translation>Kopplade enheter</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Fråga inte igen på den här datorn på %1 dagar</translation>
+        <translation>Fråga inte igen på den här datorn på så här många dagar: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2829,7 +2829,7 @@
     </message>
     <message>
         <source>Recovery codes left: %1.</source>
-        <translation>Du har %1 återställningskoder kvar.</translation>
+        <translation>Återställningskoder kvar: %1.</translation>
     </message>
     <message>
         <source>Use a security key</source>
@@ -2885,15 +2885,15 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>För många felaktiga koder. Vänta %1 minuter och försök igen.</translation>
+        <translation>För många felaktiga koder. Minuter tills du kan försöka igen: %1.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
-        <translation>Administratören kräver tvåstegsinloggning. Ställ först in den på Corvimo Server.</translation>
+        <translation>Administratören kräver tvåstegsinloggning. Konfigurera den först på Corvimo Server.</translation>
     </message>
     <message>
         <source>Set up two-step sign-in</source>
-        <translation>Ställ in tvåstegsinloggning</translation>
+        <translation>Konfigurera tvåstegsinloggning</translation>
     </message>
     <message>
         <source>Scan this code with your authenticator app.</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Säkerhetskopierar, %1 av %2 filer</translation>
+        <translation>Säkerhetskopierar filer: %1 av %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>Säkerhetskopieringen är klar, men %1 filer kunde inte läsas.</translation>
+        <translation>Säkerhetskopieringen är klar. Filer som inte kunde läsas: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Den här datorn har inte säkerhetskopierats på %1 dagar.</translation>
+        <translation>Dagar sedan den senaste säkerhetskopieringen av den här datorn: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Behåll de senaste %1 versionerna</translation>
+        <translation>Antal versioner att behålla: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Behåll versioner i %1 dagar</translation>
+        <translation>Antal dagar att behålla versioner: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>Återställer %1 av %2 filer</translation>
+        <translation>Återställer filer: %1 av %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>%1 filer återställdes, %2 filer kunde inte återställas.</translation>
+        <translation>Återställda filer: %1. Filer som inte kunde återställas: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Verifiera</translation>
+        <translation>Verifiera säkerhetskopian</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3165,7 +3165,7 @@
     </message>
     <message>
         <source>Damaged files in the backup: %1. They will be backed up again.</source>
-        <translation>%1 filer i säkerhetskopian är skadade. De säkerhetskopieras igen.</translation>
+        <translation>Skadade filer i säkerhetskopian: %1. De säkerhetskopieras igen.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Den här inställningen hanteras av din administratör.</translation>
+        <translation>Den här inställningen hanteras av administratören.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Slå på filer på begäran</translation>
+        <translation>Använd ”Filer på begäran”</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Vill du slå på filer på begäran för ”%1”? Filer som redan finns på den här datorn blir kvar här.</translation>
+        <translation>Vill du använda ”Filer på begäran” för ”%1”? Filer som redan finns på den här datorn blir kvar här.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Filer på begäran är på.</translation>
+        <translation>”Filer på begäran” är på.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Stäng av filer på begäran</translation>
+        <translation>Stäng av ”Filer på begäran”</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Vill du stänga av filer på begäran? Alla filer i den här mappen laddas ned (%1).</translation>
+        <translation>Vill du stänga av ”Filer på begäran”? Alla filer i den här mappen laddas ned (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3425,7 +3425,7 @@
     </message>
     <message>
         <source>Files that will be available online only: %1. Do you want to continue?</source>
-        <translation>%1 filer blir endast tillgängliga online. Vill du fortsätta?</translation>
+        <translation>Filer som blir tillgängliga endast online: %1. Vill du fortsätta?</translation>
     </message>
     <message>
         <source>%1 of disk space was freed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Filer som inte har öppnats på %1 dagar blir endast online</translation>
+        <translation>Gör filer tillgängliga endast online när de inte har öppnats på så här många dagar: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3457,7 +3457,7 @@
     </message>
     <message>
         <source>Block downloads by this program</source>
-        <translation>Blockera nedladdningar från det här programmet</translation>
+        <translation>Hindra det här programmet från att ladda ned filer</translation>
     </message>
     <message>
         <source>A program is opening many online-only files. Do you want to allow it?</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Filer på begäran stöds inte av den här versionen av systemet.</translation>
+        <translation>”Filer på begäran” stöds inte av den här versionen av systemet.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Filer på begäran stöds inte på den här disken.</translation>
+        <translation>”Filer på begäran” stöds inte på den här disken.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Tillåt filleverantörstillägget i systeminställningarna för att använda filer på begäran.</translation>
+        <translation>Tillåt filleverantörstillägget i systeminställningarna för att använda ”Filer på begäran”.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3505,7 +3505,7 @@
     </message>
     <message>
         <source>Set up Corvimo Client in a few steps to have your files on every computer.</source>
-        <translation>Ställ in Corvimo Client i några få steg för att ha dina filer på alla datorer.</translation>
+        <translation>Konfigurera Corvimo Client i några få steg för att ha dina filer på alla datorer.</translation>
     </message>
     <message>
         <source>Get started</source>
@@ -3549,15 +3549,15 @@
     </message>
     <message>
         <source>Team folders</source>
-        <translation>Gruppmappar</translation>
+        <translation>Teammappar</translation>
     </message>
     <message>
         <source>Choose the team folders that you want on this computer.</source>
-        <translation>Välj de gruppmappar som du vill ha på den här datorn.</translation>
+        <translation>Välj de teammappar som du vill ha på den här datorn.</translation>
     </message>
     <message>
         <source>You are not a member of any team folder.</source>
-        <translation>Du är inte medlem i någon gruppmapp.</translation>
+        <translation>Du är inte medlem i någon teammapp.</translation>
     </message>
     <message>
         <source>Sync options</source>
@@ -3581,7 +3581,7 @@
     </message>
     <message>
         <source>Files to download: %1 (%2).</source>
-        <translation>%1 filer (%2) laddas ned.</translation>
+        <translation>Filer att ladda ned: %1 (%2).</translation>
     </message>
     <message>
         <source>You are all set</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Vill du lämna konfigureringen? Du kan fortsätta senare.</translation>
+        <translation>Vill du avsluta konfigureringen? Du kan fortsätta senare.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 byte</translation>
+        <translation>%1 byte</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/s</translation>
+        <translation>%1 KB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 procent</translation>
+        <translation>%1 procent</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 objekt</translation>
+        <translation>Objekt: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3673,7 +3673,7 @@
     </message>
     <message>
         <source>Files: %1, folders: %2</source>
-        <translation>%1 filer, %2 mappar</translation>
+        <translation>Filer: %1, mappar: %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 sekunder</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 minuter</translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 timmar</translation>
+        <translation>%1 tim</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 dagar</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>%1 sekunder kvar</translation>
+        <translation>%1 s kvar</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>%1 minuter kvar</translation>
+        <translation>%1 min kvar</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>%1 timmar kvar</translation>
+        <translation>%1 tim kvar</translation>
     </message>
     <message>
         <source>Monday</source>
