@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Your attention is needed</source>
-        <translation>Wymagana jest Twoja uwaga</translation>
+        <translation>Wymagane jest Twoje działanie</translation>
     </message>
     <message>
         <source>Some files could not be synced.</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Zadania synchronizacji</translation>
+        <translation>Synchronizacja</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Zadania kopii zapasowej</translation>
+        <translation>Kopia zapasowa</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>Niesynchronizowane ze względu na filtr</translation>
+        <translation>Wykluczone przez filtr</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>Dokumenty</translation>
+        <translation>Pliki dokumentów</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Obrazy</translation>
+        <translation>Pliki obrazów</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Filmy</translation>
+        <translation>Pliki wideo</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Muzyka</translation>
+        <translation>Pliki muzyczne</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>Historia wersji jest wyłączona dla tego folderu. Poproś administratora serwera Corvimo Server o jej włączenie.</translation>
+        <translation>Historia wersji jest wyłączona dla tego folderu. Poproś administratora o jej włączenie.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Ważne do</translation>
+        <translation>Łącze ważne do</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1245,7 +1245,7 @@
     </message>
     <message>
         <source>conflicted copy of %1, %2</source>
-        <translation>kopia powodująca konflikt %1, %2</translation>
+        <translation>kopia powodująca konflikt – %1, %2</translation>
     </message>
     <message>
         <source>On this computer</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Nie znaleziono żadnego serwera w tej sieci. Wprowadź jego adres samodzielnie.</translation>
+        <translation>Nie znaleziono żadnego serwera w tej sieci. Wprowadź adres serwera samodzielnie.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>Trwa konserwacja serwera. Synchronizacja będzie kontynuowana, gdy znów będzie dostępny.</translation>
+        <translation>Trwa konserwacja serwera. Synchronizacja będzie kontynuowana, gdy serwer znów będzie dostępny.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Zapora może blokować aplikację Corvimo Client. Zezwól jej na używanie portu %1.</translation>
+        <translation>Zapora może blokować aplikację Corvimo Client. Zezwól aplikacji Corvimo Client na używanie portu %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1621,7 +1621,7 @@
     </message>
     <message>
         <source>The certificate of %1 was not issued by a known authority. Somebody may be pretending to be your server.</source>
-        <translation>Certyfikat %1 nie został wystawiony przez znany urząd certyfikacji. Ktoś może podszywać się pod Twój serwer.</translation>
+        <translation>Certyfikat serwera %1 nie został wystawiony przez znany urząd certyfikacji. Ktoś może podszywać się pod Twój serwer.</translation>
     </message>
     <message>
         <source>The server uses a certificate that it signed itself.</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message>
         <source>The certificate of %1 is not the one that was used before. Ask the administrator whether it was renewed.</source>
-        <translation>Certyfikat %1 różni się od używanego wcześniej. Zapytaj administratora, czy został odnowiony.</translation>
+        <translation>Certyfikat serwera %1 różni się od używanego wcześniej. Zapytaj administratora, czy został odnowiony.</translation>
     </message>
     <message>
         <source>The certificate uses an algorithm that is no longer considered secure.</source>
@@ -1689,7 +1689,7 @@
     </message>
     <message>
         <source>Valid until</source>
-        <translation>Ważne do</translation>
+        <translation>Ważny do</translation>
     </message>
     <message>
         <source>Serial number</source>
@@ -1725,7 +1725,7 @@
     </message>
     <message>
         <source>Do you want to remove the certificate of %1 from the trusted certificates?</source>
-        <translation>Czy chcesz usunąć certyfikat %1 z zaufanych certyfikatów?</translation>
+        <translation>Czy chcesz usunąć certyfikat serwera %1 z zaufanych certyfikatów?</translation>
     </message>
     <message>
         <source>Storage</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Proszę czekać...</translation>
+        <translation>Obliczanie...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>You can free up space with selective sync or by keeping files online only.</source>
-        <translation>Możesz zwolnić miejsce, korzystając z synchronizacji selektywnej lub zachowując pliki tylko online.</translation>
+        <translation>Możesz zwolnić miejsce, korzystając z synchronizacji selektywnej lub przechowując pliki tylko online.</translation>
     </message>
     <message>
         <source>Open storage settings</source>
@@ -2265,7 +2265,7 @@
     </message>
     <message>
         <source>Retry all</source>
-        <translation>Ponów wszystkie</translation>
+        <translation>Spróbuj ponownie ze wszystkimi</translation>
     </message>
     <message>
         <source>Details</source>
@@ -2313,7 +2313,7 @@
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Nie można zapisać pliku. Sprawdź jego uprawnienia.</translation>
+        <translation>Nie można zapisać zmian w pliku. Sprawdź jego uprawnienia.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Zegar tego komputera różni się od zegara serwera o więcej niż %1 min. Ustaw go prawidłowo.</translation>
+        <translation>Zegar tego komputera różni się od zegara serwera o więcej niż %1 min. Ustaw prawidłowy czas na tym komputerze.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Nie można pokazać ikon stanu, ponieważ inne programy zajmują wszystkie miejsca na nie.</translation>
+        <translation>Nie można pokazać ikon stanu, ponieważ inne programy zajmują już wszystkie dostępne miejsca na ikony.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Jeśli problem nie zniknie, zwróć się do administratora serwera Corvimo Server.</translation>
+        <translation>Jeśli problem nie zniknie, zwróć się do administratora.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Jeśli konto należy do domeny, wprowadź nazwę w postaci domena\użytkownik.</translation>
+        <translation>Jeśli konto należy do domeny, wprowadź nazwę użytkownika w postaci domena\użytkownik.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Nazwa</translation>
+        <translation>Imię i nazwisko</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Administrator prosi o zmianę hasła.</translation>
+        <translation>Administrator wymaga zmiany hasła.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Połączone urządzenia</translation>
+        <translation>Powiązane urządzenia</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Nie pytaj ponownie na tym komputerze przez %1 dni</translation>
+        <translation>Nie pytaj ponownie na tym komputerze (liczba dni: %1)</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2885,7 +2885,7 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>Zbyt wiele nieprawidłowych kodów. Odczekaj %1 min i spróbuj ponownie.</translation>
+        <translation>Zbyt wiele nieprawidłowych kodów. Odczekaj %1 min i spróbuj ponownie.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
@@ -2909,7 +2909,7 @@
     </message>
     <message>
         <source>A backup task copies folders on this computer to Corvimo Server and keeps previous versions.</source>
-        <translation>Zadanie kopii zapasowej kopiuje foldery tego komputera na serwer Corvimo Server i zachowuje wcześniejsze wersje.</translation>
+        <translation>Zadanie kopii zapasowej kopiuje foldery tego komputera na serwer Corvimo Server i zachowuje poprzednie wersje.</translation>
     </message>
     <message>
         <source>Create backup task</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>Tworzenie kopii zapasowej zostało ukończone, ale nie udało się odczytać niektórych plików (%1).</translation>
+        <translation>Tworzenie kopii zapasowej zostało ukończone. Pliki, których nie udało się odczytać: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Zachowuj ostatnie wersje: %1</translation>
+        <translation>Liczba zachowywanych wersji: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Zachowuj wersje przez %1 dni</translation>
+        <translation>Liczba dni zachowywania wersji: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>Przywrócone pliki: %1, pliki, których nie udało się przywrócić: %2.</translation>
+        <translation>Przywrócone pliki: %1. Pliki, których nie udało się przywrócić: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Zweryfikuj</translation>
+        <translation>Zweryfikuj kopię zapasową</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Włącz pliki na żądanie</translation>
+        <translation>Użyj funkcji „Pliki na żądanie”</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Czy chcesz włączyć pliki na żądanie dla „%1”? Pliki, które są już na tym komputerze, na nim pozostaną.</translation>
+        <translation>Czy chcesz używać funkcji „Pliki na żądanie” dla „%1”? Pliki, które są już na tym komputerze, na nim pozostaną.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Pliki na żądanie są włączone.</translation>
+        <translation>Funkcja „Pliki na żądanie” jest włączona.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Wyłącz pliki na żądanie</translation>
+        <translation>Wyłącz funkcję „Pliki na żądanie”</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Czy chcesz wyłączyć pliki na żądanie? Zostaną pobrane wszystkie pliki z tego folderu (%1).</translation>
+        <translation>Czy chcesz wyłączyć funkcję „Pliki na żądanie”? Zostaną pobrane wszystkie pliki z tego folderu (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Pliki nieotwierane przez %1 dni stają się dostępne tylko online</translation>
+        <translation>Przechowuj tylko online pliki nieotwierane od dłuższego czasu (liczba dni: %1)</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Pliki na żądanie nie są obsługiwane w tej wersji systemu.</translation>
+        <translation>Funkcja „Pliki na żądanie” nie jest obsługiwana w tej wersji systemu.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Pliki na żądanie nie są obsługiwane na tym dysku.</translation>
+        <translation>Funkcja „Pliki na żądanie” nie jest obsługiwana na tym dysku.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Aby korzystać z plików na żądanie, zezwól na rozszerzenie dostawcy plików w ustawieniach systemowych.</translation>
+        <translation>Aby korzystać z funkcji „Pliki na żądanie”, zezwól na rozszerzenie dostawcy plików w ustawieniach systemowych.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3533,7 +3533,7 @@
     </message>
     <message>
         <source>Keep files the same on this computer and on Corvimo Server.</source>
-        <translation>Zachowuj te same pliki na tym komputerze i na serwerze Corvimo Server.</translation>
+        <translation>Utrzymuj identyczne pliki na tym komputerze i na serwerze Corvimo Server.</translation>
     </message>
     <message>
         <source>Back up this computer</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 B</translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/s</translation>
+        <translation>%1 KB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 procent</translation>
+        <translation>%1 procent</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -3713,7 +3713,7 @@
     </message>
     <message>
         <source>%1 minutes ago</source>
-        <translation>%1 min temu</translation>
+        <translation>%1 min temu</translation>
     </message>
     <message>
         <source>An hour ago</source>
@@ -3721,7 +3721,7 @@
     </message>
     <message>
         <source>%1 hours ago</source>
-        <translation>%1 godz. temu</translation>
+        <translation>%1 godz. temu</translation>
     </message>
     <message>
         <source>%1 days ago</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 min</translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 godz.</translation>
+        <translation>%1 godz.</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 dni</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>Pozostało: %1 s</translation>
+        <translation>Pozostało: %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>Pozostało: %1 min</translation>
+        <translation>Pozostało: %1 min</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>Pozostało: %1 godz.</translation>
+        <translation>Pozostało: %1 godz.</translation>
     </message>
     <message>
         <source>Monday</source>
