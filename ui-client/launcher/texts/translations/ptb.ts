@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Syncing, files left: %1</source>
-        <translation>Sincronizando, %1 arquivos restantes</translation>
+        <translation>Sincronizando, arquivos restantes: %1</translation>
     </message>
     <message>
         <source>Uploading %1</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Tarefas de sincronização</translation>
+        <translation>Sincronização</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Tarefas de backup</translation>
+        <translation>Backup</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -437,7 +437,7 @@
     </message>
     <message>
         <source>Stopped</source>
-        <translation>Interrompida</translation>
+        <translation>Interrompido</translation>
     </message>
     <message>
         <source>Error</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Files changed by %2: %1.</source>
-        <translation>%1 arquivos foram alterados por %2.</translation>
+        <translation>Arquivos alterados por %2: %1.</translation>
     </message>
     <message>
         <source>Choose folders to sync</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>Não foi possível criar a pasta “%1”. Escolha outro nome ou verifique sua permissão.</translation>
+        <translation>Não foi possível criar a pasta “%1”. Escolha outro nome ou verifique suas permissões.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 de %2 arquivos comparados</translation>
+        <translation>Arquivos comparados: %1 de %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
-        <translation>%1 pastas serão removidas deste computador. Elas permanecem no Corvimo Server.</translation>
+        <translation>Pastas que serão removidas deste computador: %1. Elas permanecem no Corvimo Server.</translation>
     </message>
     <message>
         <source>Remove folders from this computer?</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>Documentos</translation>
+        <translation>Arquivos de documento</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Imagens</translation>
+        <translation>Arquivos de imagem</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Vídeos</translation>
+        <translation>Arquivos de vídeo</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Música</translation>
+        <translation>Arquivos de música</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -877,7 +877,7 @@
     </message>
     <message>
         <source>Preview</source>
-        <translation>Visualizar</translation>
+        <translation>Pré-visualizar</translation>
     </message>
     <message>
         <source>Close</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>O Corvimo Server mantém até %1 versões de um arquivo.</translation>
+        <translation>Número máximo de versões de um arquivo que o Corvimo Server mantém: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>O histórico de versões está desativado para esta pasta. Peça ao administrador do Corvimo Server para ativá-lo.</translation>
+        <translation>O histórico de versões está desativado para esta pasta. Peça ao administrador para ativá-lo.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Items restored: %1.</source>
-        <translation>%1 itens foram restaurados.</translation>
+        <translation>Itens restaurados: %1.</translation>
     </message>
     <message>
         <source>No deleted files were found.</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Go back to a point in time</source>
-        <translation>Voltar a um ponto no tempo</translation>
+        <translation>Voltar a um momento anterior</translation>
     </message>
     <message>
         <source>Choose a date and time</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>A permissão de %1 foi alterada.</translation>
+        <translation>As permissões de %1 foram alteradas.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>People with access: %1</source>
-        <translation>Compartilhado com %1 pessoas</translation>
+        <translation>Pessoas com acesso: %1</translation>
     </message>
     <message>
         <source>This item is not shared.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Válido até</translation>
+        <translation>Link válido até</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Downloads left: %1</source>
-        <translation>%1 downloads restantes</translation>
+        <translation>Downloads restantes: %1</translation>
     </message>
     <message>
         <source>Allow downloading</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
-        <translation>Deseja excluir %1 cópias em conflito? Elas não poderão ser recuperadas.</translation>
+        <translation>Deseja excluir as cópias em conflito (%1)? Elas não poderão ser recuperadas.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open in another program and will be synced when it is closed.</source>
@@ -1437,11 +1437,11 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Nenhum servidor foi encontrado nesta rede. Digite o endereço manualmente.</translation>
+        <translation>Nenhum servidor foi encontrado nesta rede. Digite o endereço do servidor manualmente.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
-        <translation>%1 servidores encontrados</translation>
+        <translation>Servidores encontrados: %1</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; was not found. Check the spelling of the address.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>O servidor está em manutenção. A sincronização continuará quando ele voltar.</translation>
+        <translation>O servidor está em manutenção. A sincronização continuará quando ele estiver disponível novamente.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1497,11 +1497,11 @@
     </message>
     <message>
         <source>This computer was blocked after too many failed attempts. Ask the administrator to unblock it.</source>
-        <translation>Este computador foi bloqueado após muitas tentativas sem sucesso. Peça ao administrador para desbloqueá-lo.</translation>
+        <translation>Este computador foi bloqueado após um excesso de tentativas malsucedidas. Peça ao administrador para desbloqueá-lo.</translation>
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Um firewall pode estar bloqueando o Corvimo Client. Permita que ele use a porta %1.</translation>
+        <translation>Um firewall pode estar bloqueando o Corvimo Client. Permita que o Corvimo Client use a porta %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>Files not uploaded yet: %1.</source>
-        <translation>%1 arquivos ainda não foram enviados.</translation>
+        <translation>Arquivos ainda não enviados: %1.</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -1777,15 +1777,15 @@
     </message>
     <message>
         <source>The trash was emptied. %1 is free again.</source>
-        <translation>A lixeira foi esvaziada. %1 estão livres novamente.</translation>
+        <translation>A lixeira foi esvaziada. Espaço liberado: %1.</translation>
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Aguarde...</translation>
+        <translation>Calculando...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
-        <translation>Seu armazenamento está quase cheio. Restam apenas %1.</translation>
+        <translation>Seu armazenamento está quase cheio. Espaço restante: apenas %1.</translation>
     </message>
     <message>
         <source>Your storage is full</source>
@@ -1813,7 +1813,7 @@
     </message>
     <message>
         <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
-        <translation>Restam apenas %1 no disco “%2”. A sincronização para quando o disco está cheio.</translation>
+        <translation>Espaço livre no disco “%2”: apenas %1. A sincronização será interrompida quando o disco ficar cheio.</translation>
     </message>
     <message>
         <source>Not enough disk space</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 de arquivos temporários foram excluídos.</translation>
+        <translation>Os arquivos temporários foram excluídos (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -2205,7 +2205,7 @@
     </message>
     <message>
         <source>New notifications: %1</source>
-        <translation>%1 novas notificações</translation>
+        <translation>Novas notificações: %1</translation>
     </message>
     <message>
         <source>All files are up to date.</source>
@@ -2213,7 +2213,7 @@
     </message>
     <message>
         <source>The first sync is complete. Files now on this computer: %1.</source>
-        <translation>A primeira sincronização foi concluída. Agora há %1 arquivos neste computador.</translation>
+        <translation>A primeira sincronização foi concluída. Arquivos que agora estão neste computador: %1.</translation>
     </message>
     <message>
         <source>Many files were deleted</source>
@@ -2245,7 +2245,7 @@
     </message>
     <message>
         <source>Problems: %1</source>
-        <translation>%1 problemas</translation>
+        <translation>Problemas: %1</translation>
     </message>
     <message>
         <source>There are no problems.</source>
@@ -2309,11 +2309,11 @@
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
-        <translation>Não é possível ler o arquivo. Verifique suas permissões.</translation>
+        <translation>Não é possível ler o arquivo. Verifique as permissões dele.</translation>
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Não é possível gravar o arquivo. Verifique suas permissões.</translation>
+        <translation>Não é possível gravar no arquivo. Verifique as permissões dele.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>O relógio deste computador difere do relógio do servidor em mais de %1 minutos. Acerte-o.</translation>
+        <translation>O relógio deste computador difere do relógio do servidor em mais de %1 minutos. Acerte a hora deste computador.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Os ícones de status não podem ser mostrados porque outros programas usam todos os lugares disponíveis para eles.</translation>
+        <translation>Os ícones de status não podem ser mostrados porque outros programas já usam todos os lugares disponíveis para ícones.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Se o problema persistir, fale com o administrador do Corvimo Server.</translation>
+        <translation>Se o problema persistir, fale com o administrador.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2621,7 +2621,7 @@
     </message>
     <message>
         <source>Do you want to sign out? Syncing stops until you sign in again.</source>
-        <translation>Deseja sair da sua conta? A sincronização para até você entrar novamente.</translation>
+        <translation>Deseja sair da sua conta? A sincronização será interrompida até você entrar novamente.</translation>
     </message>
     <message>
         <source>Sign in with your browser</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Digite seu nome como domínio\usuário se sua conta pertencer a um domínio.</translation>
+        <translation>Digite seu nome de usuário como domínio\usuário se sua conta pertencer a um domínio.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Nome</translation>
+        <translation>Nome completo</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,11 +2689,11 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>O administrador pede que você altere sua senha.</translation>
+        <translation>O administrador exige que você altere sua senha.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
-        <translation>Sua senha expira em %1 dias.</translation>
+        <translation>Dias até sua senha expirar: %1.</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
@@ -2713,11 +2713,11 @@
     </message>
     <message>
         <source>The user name or the password is wrong.</source>
-        <translation>O nome de usuário ou a senha está incorreto.</translation>
+        <translation>Nome de usuário ou senha incorretos.</translation>
     </message>
     <message>
         <source>The user name or the password is wrong. Attempts left: %1.</source>
-        <translation>O nome de usuário ou a senha está incorreto. Tentativas restantes: %1.</translation>
+        <translation>Nome de usuário ou senha incorretos. Tentativas restantes: %1.</translation>
     </message>
     <message>
         <source>Your account is disabled. Ask the administrator.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Dispositivos conectados</translation>
+        <translation>Dispositivos vinculados</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Não perguntar novamente neste computador por %1 dias</translation>
+        <translation>Não perguntar novamente neste computador por este número de dias: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2845,7 +2845,7 @@
     </message>
     <message>
         <source>Approve the sign-in on your phone</source>
-        <translation>Aprove a entrada no seu telefone</translation>
+        <translation>Aprove o login no seu telefone</translation>
     </message>
     <message>
         <source>Waiting for your approval...</source>
@@ -2857,7 +2857,7 @@
     </message>
     <message>
         <source>The sign-in was denied on your phone.</source>
-        <translation>A entrada foi negada no seu telefone.</translation>
+        <translation>O login foi negado no seu telefone.</translation>
     </message>
     <message>
         <source>The request has expired. Send it again.</source>
@@ -2885,7 +2885,7 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>Muitos códigos incorretos. Aguarde %1 minutos e tente novamente.</translation>
+        <translation>Códigos incorretos demais. Minutos até poder tentar novamente: %1.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>Fazendo backup, %1 de %2 arquivos</translation>
+        <translation>Fazendo backup dos arquivos: %1 de %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>O backup foi concluído, mas não foi possível ler %1 arquivos.</translation>
+        <translation>O backup foi concluído. Arquivos que não puderam ser lidos: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3089,7 +3089,7 @@
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Não é feito um backup deste computador há %1 dias.</translation>
+        <translation>Dias desde o último backup deste computador: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Manter as últimas %1 versões</translation>
+        <translation>Número de versões a manter: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Manter as versões por %1 dias</translation>
+        <translation>Número de dias para manter as versões: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3133,11 +3133,11 @@
     </message>
     <message>
         <source>Choose the files to restore and where to put them.</source>
-        <translation>Escolha os arquivos a restaurar e um lugar para colocá-los.</translation>
+        <translation>Escolha os arquivos a restaurar e onde colocá-los.</translation>
     </message>
     <message>
         <source>Restore to the original location</source>
-        <translation>Restaurar para o lugar original</translation>
+        <translation>Restaurar para o local original</translation>
     </message>
     <message>
         <source>Replace existing files</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>Restaurando %1 de %2 arquivos</translation>
+        <translation>Restaurando arquivos: %1 de %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>%1 arquivos foram restaurados, %2 arquivos não puderam ser restaurados.</translation>
+        <translation>Arquivos restaurados: %1. Arquivos que não puderam ser restaurados: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Verificar</translation>
+        <translation>Verificar backup</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3165,7 +3165,7 @@
     </message>
     <message>
         <source>Damaged files in the backup: %1. They will be backed up again.</source>
-        <translation>%1 arquivos do backup estão danificados. Eles serão copiados novamente.</translation>
+        <translation>Arquivos danificados no backup: %1. Eles serão copiados novamente.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Esta configuração é gerenciada pelo seu administrador.</translation>
+        <translation>Esta configuração é gerenciada pelo administrador.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,27 +3389,27 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Ativar arquivos sob demanda</translation>
+        <translation>Usar “Arquivos sob demanda”</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Deseja ativar os arquivos sob demanda para “%1”? Os arquivos que já estão neste computador permanecem aqui.</translation>
+        <translation>Deseja usar o recurso “Arquivos sob demanda” para “%1”? Os arquivos que já estão neste computador permanecem aqui.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Os arquivos sob demanda estão ativados.</translation>
+        <translation>O recurso “Arquivos sob demanda” está ativado.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Desativar arquivos sob demanda</translation>
+        <translation>Desativar “Arquivos sob demanda”</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Deseja desativar os arquivos sob demanda? Todos os arquivos desta pasta serão baixados (%1).</translation>
+        <translation>Deseja desativar o recurso “Arquivos sob demanda”? Todos os arquivos desta pasta serão baixados (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
-        <translation>Não há espaço suficiente para baixar todos os arquivos. São necessários mais %1.</translation>
+        <translation>Não há espaço suficiente para baixar todos os arquivos. Espaço adicional necessário: %1.</translation>
     </message>
     <message>
         <source>Online only</source>
@@ -3425,11 +3425,11 @@
     </message>
     <message>
         <source>Files that will be available online only: %1. Do you want to continue?</source>
-        <translation>%1 arquivos ficarão disponíveis somente online. Deseja continuar?</translation>
+        <translation>Arquivos que ficarão disponíveis somente online: %1. Deseja continuar?</translation>
     </message>
     <message>
         <source>%1 of disk space was freed.</source>
-        <translation>%1 de espaço em disco foram liberados.</translation>
+        <translation>Espaço em disco liberado: %1.</translation>
     </message>
     <message>
         <source>Files that have not been uploaded yet stay on this computer.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Arquivos não abertos por %1 dias passam a ser somente online</translation>
+        <translation>Manter somente online os arquivos não abertos por este número de dias: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3457,7 +3457,7 @@
     </message>
     <message>
         <source>Block downloads by this program</source>
-        <translation>Bloquear downloads deste programa</translation>
+        <translation>Bloquear downloads feitos por este programa</translation>
     </message>
     <message>
         <source>A program is opening many online-only files. Do you want to allow it?</source>
@@ -3465,7 +3465,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; cannot be opened because it is online only and Corvimo Client is not connected.</source>
-        <translation>Não é possível abrir “%1” porque ele é somente online e o Corvimo Client não está conectado.</translation>
+        <translation>Não é possível abrir “%1” porque ele está disponível somente online e o Corvimo Client não está conectado.</translation>
     </message>
     <message>
         <source>Start Corvimo Client to open online-only files.</source>
@@ -3473,19 +3473,19 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Esta versão do sistema não é compatível com arquivos sob demanda.</translation>
+        <translation>Esta versão do sistema não é compatível com o recurso “Arquivos sob demanda”.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Este disco não é compatível com arquivos sob demanda.</translation>
+        <translation>Este disco não é compatível com o recurso “Arquivos sob demanda”.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Permita a extensão do provedor de arquivos nos ajustes do sistema para usar arquivos sob demanda.</translation>
+        <translation>Permita a extensão do provedor de arquivos nos ajustes do sistema para usar o recurso “Arquivos sob demanda”.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
-        <translation>Mostrar prévias de arquivos somente online</translation>
+        <translation>Mostrar pré-visualizações de arquivos somente online</translation>
     </message>
     <message>
         <source>The contents of online-only files cannot be searched on this computer.</source>
@@ -3581,7 +3581,7 @@
     </message>
     <message>
         <source>Files to download: %1 (%2).</source>
-        <translation>%1 arquivos (%2) serão baixados.</translation>
+        <translation>Arquivos a baixar: %1 (%2).</translation>
     </message>
     <message>
         <source>You are all set</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 bytes</translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/s</translation>
+        <translation>%1 KB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 por cento</translation>
+        <translation>%1 por cento</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 itens</translation>
+        <translation>Itens: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3673,7 +3673,7 @@
     </message>
     <message>
         <source>Files: %1, folders: %2</source>
-        <translation>%1 arquivos, %2 pastas</translation>
+        <translation>Arquivos: %1, pastas: %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 segundos</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 minutos</translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 horas</translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 dias</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>%1 segundos restantes</translation>
+        <translation>Tempo restante: %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>%1 minutos restantes</translation>
+        <translation>Tempo restante: %1 min</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>%1 horas restantes</translation>
+        <translation>Tempo restante: %1 h</translation>
     </message>
     <message>
         <source>Monday</source>
