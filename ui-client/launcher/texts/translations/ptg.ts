@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>Renamed</source>
-        <translation>Com novo nome</translation>
+        <translation>Nome alterado</translation>
     </message>
     <message>
         <source>Moved</source>
@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>File renamed: </source>
-        <translation>Ficheiro com novo nome: </translation>
+        <translation>Nome do ficheiro alterado: </translation>
     </message>
     <message>
         <source>Folder added: </source>
@@ -137,7 +137,7 @@
     </message>
     <message>
         <source>Syncing, files left: %1</source>
-        <translation>A sincronizar, %1 ficheiros restantes</translation>
+        <translation>A sincronizar, ficheiros restantes: %1</translation>
     </message>
     <message>
         <source>Uploading %1</source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Tarefas de sincronização</translation>
+        <translation>Sincronização</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Tarefas de cópia de segurança</translation>
+        <translation>Cópia de segurança</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -437,7 +437,7 @@
     </message>
     <message>
         <source>Stopped</source>
-        <translation>Parada</translation>
+        <translation>Parado</translation>
     </message>
     <message>
         <source>Error</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>Files changed by %2: %1.</source>
-        <translation>%1 ficheiros foram alterados por %2.</translation>
+        <translation>Ficheiros alterados por %2: %1.</translation>
     </message>
     <message>
         <source>Choose folders to sync</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>Não foi possível criar a pasta “%1”. Escolha outro nome ou verifique a sua permissão.</translation>
+        <translation>Não foi possível criar a pasta “%1”. Escolha outro nome ou verifique as suas permissões.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>Files compared: %1 of %2</source>
-        <translation>%1 de %2 ficheiros comparados</translation>
+        <translation>Ficheiros comparados: %1 de %2</translation>
     </message>
     <message>
         <source>Both folders are now the same.</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
-        <translation>Escolha o que sincronizar com este computador. As pastas que desmarcar são removidas deste computador, mas permanecem no Corvimo Server.</translation>
+        <translation>Escolha o que sincronizar com este computador. As pastas que desmarcar serão removidas deste computador, mas permanecerão no Corvimo Server.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -745,7 +745,7 @@
     </message>
     <message>
         <source>Folders to be removed from this computer: %1. They stay on Corvimo Server.</source>
-        <translation>%1 pastas serão removidas deste computador. Permanecem no Corvimo Server.</translation>
+        <translation>Pastas que serão removidas deste computador: %1. Permanecem no Corvimo Server.</translation>
     </message>
     <message>
         <source>Remove folders from this computer?</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>Não sincronizado devido ao filtro</translation>
+        <translation>Excluído pelo filtro</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,23 +825,23 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>Documentos</translation>
+        <translation>Ficheiros de documentos</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Imagens</translation>
+        <translation>Ficheiros de imagem</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Vídeos</translation>
+        <translation>Ficheiros de vídeo</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Música</translation>
+        <translation>Ficheiros de música</translation>
     </message>
     <message>
         <source>Archives</source>
-        <translation>Arquivos comprimidos</translation>
+        <translation>Ficheiros comprimidos</translation>
     </message>
     <message>
         <source>Other files</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>Maximum number of versions that Corvimo Server keeps of a file: %1.</source>
-        <translation>O Corvimo Server mantém até %1 versões de um ficheiro.</translation>
+        <translation>Número máximo de versões de um ficheiro que o Corvimo Server mantém: %1.</translation>
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>O histórico de versões está desativado para esta pasta. Peça ao administrador do Corvimo Server para o ativar.</translation>
+        <translation>O histórico de versões está desativado para esta pasta. Peça ao administrador para o ativar.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -965,7 +965,7 @@
     </message>
     <message>
         <source>Items restored: %1.</source>
-        <translation>%1 itens foram restaurados.</translation>
+        <translation>Itens restaurados: %1.</translation>
     </message>
     <message>
         <source>No deleted files were found.</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Go back to a point in time</source>
-        <translation>Voltar a um ponto no tempo</translation>
+        <translation>Voltar a um momento anterior</translation>
     </message>
     <message>
         <source>Choose a date and time</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>A permissão de %1 foi alterada.</translation>
+        <translation>As permissões de %1 foram alteradas.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1077,7 +1077,7 @@
     </message>
     <message>
         <source>People with access: %1</source>
-        <translation>Partilhado com %1 pessoas</translation>
+        <translation>Pessoas com acesso: %1</translation>
     </message>
     <message>
         <source>This item is not shared.</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Válido até</translation>
+        <translation>Link válido até</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1173,15 +1173,15 @@
     </message>
     <message>
         <source>Downloads left: %1</source>
-        <translation>%1 descargas restantes</translation>
+        <translation>Descargas restantes: %1</translation>
     </message>
     <message>
         <source>Allow downloading</source>
-        <translation>Permitir descarregar</translation>
+        <translation>Permitir descargas</translation>
     </message>
     <message>
         <source>Allow uploading</source>
-        <translation>Permitir enviar</translation>
+        <translation>Permitir envios</translation>
     </message>
     <message>
         <source>The link could not be created. Try again later.</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
-        <translation>Pretende eliminar %1 cópias em conflito? Não será possível recuperá-las.</translation>
+        <translation>Pretende eliminar as cópias em conflito (%1)? Não será possível recuperá-las.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open in another program and will be synced when it is closed.</source>
@@ -1437,11 +1437,11 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Não foi encontrado nenhum servidor nesta rede. Introduza o endereço manualmente.</translation>
+        <translation>Não foi encontrado nenhum servidor nesta rede. Introduza o endereço do servidor manualmente.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
-        <translation>%1 servidores encontrados</translation>
+        <translation>Servidores encontrados: %1</translation>
     </message>
     <message>
         <source>The server &quot;%1&quot; was not found. Check the spelling of the address.</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>O servidor está em manutenção. A sincronização continua quando voltar a estar disponível.</translation>
+        <translation>O servidor está em manutenção. A sincronização continuará quando o servidor voltar a estar disponível.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Uma firewall pode estar a bloquear o Corvimo Client. Permita que utilize a porta %1.</translation>
+        <translation>Uma firewall pode estar a bloquear o Corvimo Client. Permita que o Corvimo Client utilize a porta %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1525,7 +1525,7 @@
     </message>
     <message>
         <source>Files not uploaded yet: %1.</source>
-        <translation>%1 ficheiros ainda não foram enviados.</translation>
+        <translation>Ficheiros ainda não enviados: %1.</translation>
     </message>
     <message>
         <source>Advanced</source>
@@ -1777,15 +1777,15 @@
     </message>
     <message>
         <source>The trash was emptied. %1 is free again.</source>
-        <translation>O lixo foi esvaziado. %1 estão novamente livres.</translation>
+        <translation>O lixo foi esvaziado. Espaço libertado: %1.</translation>
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Aguarde...</translation>
+        <translation>A calcular...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
-        <translation>O seu armazenamento está quase cheio. Restam apenas %1.</translation>
+        <translation>O seu armazenamento está quase cheio. Espaço restante: apenas %1.</translation>
     </message>
     <message>
         <source>Your storage is full</source>
@@ -1813,7 +1813,7 @@
     </message>
     <message>
         <source>Only %1 is left on the disk &quot;%2&quot;. Syncing stops when the disk is full.</source>
-        <translation>Restam apenas %1 no disco “%2”. A sincronização para quando o disco estiver cheio.</translation>
+        <translation>Espaço livre no disco “%2”: apenas %1. A sincronização será interrompida quando o disco ficar cheio.</translation>
     </message>
     <message>
         <source>Not enough disk space</source>
@@ -1821,7 +1821,7 @@
     </message>
     <message>
         <source>There is not enough space on the disk &quot;%1&quot;. Syncing is paused until you free at least %2.</source>
-        <translation>Não há espaço suficiente no disco “%1”. A sincronização fica em pausa até libertar, pelo menos, %2.</translation>
+        <translation>Não há espaço suficiente no disco “%1”. A sincronização ficará em pausa até libertar, pelo menos, %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was not downloaded because it needs %2 of disk space.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 de ficheiros temporários foram eliminados.</translation>
+        <translation>Os ficheiros temporários foram eliminados (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1989,7 +1989,7 @@
     </message>
     <message>
         <source>Your settings were imported. You can continue where you left off.</source>
-        <translation>As suas definições foram transferidas. Pode continuar onde parou.</translation>
+        <translation>As suas definições foram transferidas. Pode continuar a partir do ponto em que ficou.</translation>
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
@@ -2205,7 +2205,7 @@
     </message>
     <message>
         <source>New notifications: %1</source>
-        <translation>%1 novas notificações</translation>
+        <translation>Novas notificações: %1</translation>
     </message>
     <message>
         <source>All files are up to date.</source>
@@ -2213,7 +2213,7 @@
     </message>
     <message>
         <source>The first sync is complete. Files now on this computer: %1.</source>
-        <translation>A primeira sincronização está concluída. Há agora %1 ficheiros neste computador.</translation>
+        <translation>A primeira sincronização está concluída. Ficheiros que estão agora neste computador: %1.</translation>
     </message>
     <message>
         <source>Many files were deleted</source>
@@ -2245,7 +2245,7 @@
     </message>
     <message>
         <source>Problems: %1</source>
-        <translation>%1 problemas</translation>
+        <translation>Problemas: %1</translation>
     </message>
     <message>
         <source>There are no problems.</source>
@@ -2309,11 +2309,11 @@
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
-        <translation>Não é possível ler o ficheiro. Verifique as suas permissões.</translation>
+        <translation>Não é possível ler o ficheiro. Verifique as respetivas permissões.</translation>
     </message>
     <message>
         <source>The file cannot be written to. Check its permissions.</source>
-        <translation>Não é possível escrever o ficheiro. Verifique as suas permissões.</translation>
+        <translation>Não é possível escrever no ficheiro. Verifique as respetivas permissões.</translation>
     </message>
     <message>
         <source>The file is larger than the limit of %1.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>O relógio deste computador difere do relógio do servidor em mais de %1 minutos. Acerte-o.</translation>
+        <translation>O relógio deste computador difere do relógio do servidor em mais de %1 minutos. Acerte a hora deste computador.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Não é possível mostrar os ícones de estado porque outros programas utilizam todos os lugares disponíveis.</translation>
+        <translation>Não é possível mostrar os ícones de estado porque outros programas já utilizam todos os lugares disponíveis para ícones.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Se o problema persistir, contacte o administrador do Corvimo Server.</translation>
+        <translation>Se o problema persistir, contacte o administrador.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2617,11 +2617,11 @@
     </message>
     <message>
         <source>You are signed out.</source>
-        <translation>A sua sessão está terminada.</translation>
+        <translation>Não tem sessão iniciada.</translation>
     </message>
     <message>
         <source>Do you want to sign out? Syncing stops until you sign in again.</source>
-        <translation>Pretende terminar a sessão? A sincronização para até iniciar sessão novamente.</translation>
+        <translation>Pretende terminar a sessão? A sincronização será interrompida até iniciar sessão novamente.</translation>
     </message>
     <message>
         <source>Sign in with your browser</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Introduza o seu nome como domínio\utilizador se a sua conta pertencer a um domínio.</translation>
+        <translation>Introduza o seu nome de utilizador como domínio\utilizador se a sua conta pertencer a um domínio.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Nome</translation>
+        <translation>Nome completo</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,11 +2689,11 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>O administrador pede-lhe que altere a sua palavra-passe.</translation>
+        <translation>O administrador exige que altere a sua palavra-passe.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
-        <translation>A sua palavra-passe expira dentro de %1 dias.</translation>
+        <translation>Dias até a sua palavra-passe expirar: %1.</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
@@ -2713,11 +2713,11 @@
     </message>
     <message>
         <source>The user name or the password is wrong.</source>
-        <translation>O nome de utilizador ou a palavra-passe está incorreto.</translation>
+        <translation>Nome de utilizador ou palavra-passe incorretos.</translation>
     </message>
     <message>
         <source>The user name or the password is wrong. Attempts left: %1.</source>
-        <translation>O nome de utilizador ou a palavra-passe está incorreto. Tentativas restantes: %1.</translation>
+        <translation>Nome de utilizador ou palavra-passe incorretos. Tentativas restantes: %1.</translation>
     </message>
     <message>
         <source>Your account is disabled. Ask the administrator.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Dispositivos ligados</translation>
+        <translation>Dispositivos associados</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2801,7 +2801,7 @@
     </message>
     <message>
         <source>Do not ask again on this computer for this many days: %1</source>
-        <translation>Não perguntar novamente neste computador durante %1 dias</translation>
+        <translation>Não perguntar novamente neste computador durante este número de dias: %1</translation>
     </message>
     <message>
         <source>Lost your phone?</source>
@@ -2885,7 +2885,7 @@
     </message>
     <message>
         <source>Too many wrong codes. Minutes to wait before you try again: %1.</source>
-        <translation>Demasiados códigos incorretos. Aguarde %1 minutos e tente novamente.</translation>
+        <translation>Demasiados códigos incorretos. Minutos até poder tentar novamente: %1.</translation>
     </message>
     <message>
         <source>The administrator requires two-step sign-in. Set it up on Corvimo Server first.</source>
@@ -3057,7 +3057,7 @@
     </message>
     <message>
         <source>Backing up files: %1 of %2</source>
-        <translation>A fazer cópia de segurança, %1 de %2 ficheiros</translation>
+        <translation>A fazer cópia de segurança dos ficheiros: %1 de %2</translation>
     </message>
     <message>
         <source>The backup is complete.</source>
@@ -3077,7 +3077,7 @@
     </message>
     <message>
         <source>The backup is complete. Files that could not be read: %1.</source>
-        <translation>A cópia de segurança está concluída, mas não foi possível ler %1 ficheiros.</translation>
+        <translation>A cópia de segurança está concluída. Ficheiros que não foi possível ler: %1.</translation>
     </message>
     <message>
         <source>The backup failed: %1</source>
@@ -3085,11 +3085,11 @@
     </message>
     <message>
         <source>The backup scheduled for %1 was missed. It starts now.</source>
-        <translation>A cópia de segurança prevista para %1 não foi realizada. Vai começar agora.</translation>
+        <translation>A cópia de segurança agendada para %1 não foi realizada. Vai começar agora.</translation>
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
-        <translation>Não é feita uma cópia de segurança deste computador há %1 dias.</translation>
+        <translation>Dias desde a última cópia de segurança deste computador: %1.</translation>
     </message>
     <message>
         <source>How long to keep versions</source>
@@ -3101,11 +3101,11 @@
     </message>
     <message>
         <source>Number of versions to keep: %1</source>
-        <translation>Manter as últimas %1 versões</translation>
+        <translation>Número de versões a manter: %1</translation>
     </message>
     <message>
         <source>Days to keep versions: %1</source>
-        <translation>Manter as versões durante %1 dias</translation>
+        <translation>Número de dias para manter as versões: %1</translation>
     </message>
     <message>
         <source>Keep fewer versions as they get older</source>
@@ -3133,7 +3133,7 @@
     </message>
     <message>
         <source>Choose the files to restore and where to put them.</source>
-        <translation>Escolha os ficheiros a restaurar e um local para os colocar.</translation>
+        <translation>Escolha os ficheiros a restaurar e onde os colocar.</translation>
     </message>
     <message>
         <source>Restore to the original location</source>
@@ -3145,7 +3145,7 @@
     </message>
     <message>
         <source>Restoring files: %1 of %2</source>
-        <translation>A restaurar %1 de %2 ficheiros</translation>
+        <translation>A restaurar ficheiros: %1 de %2</translation>
     </message>
     <message>
         <source>All files were restored.</source>
@@ -3153,11 +3153,11 @@
     </message>
     <message>
         <source>Files restored: %1. Files that could not be restored: %2.</source>
-        <translation>%1 ficheiros foram restaurados, %2 ficheiros não puderam ser restaurados.</translation>
+        <translation>Ficheiros restaurados: %1. Ficheiros que não foi possível restaurar: %2.</translation>
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Verificar</translation>
+        <translation>Verificar cópia de segurança</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3165,7 +3165,7 @@
     </message>
     <message>
         <source>Damaged files in the backup: %1. They will be backed up again.</source>
-        <translation>%1 ficheiros da cópia de segurança estão danificados. Serão copiados novamente.</translation>
+        <translation>Ficheiros danificados na cópia de segurança: %1. Serão copiados novamente.</translation>
     </message>
     <message>
         <source>Done</source>
@@ -3329,7 +3329,7 @@
     </message>
     <message>
         <source>The language changes when you restart Corvimo Client.</source>
-        <translation>O idioma muda quando reiniciar o Corvimo Client.</translation>
+        <translation>O idioma mudará quando reiniciar o Corvimo Client.</translation>
     </message>
     <message>
         <source>Appearance</source>
@@ -3349,7 +3349,7 @@
     </message>
     <message>
         <source>Do not sleep while files are being synced</source>
-        <translation>Não entrar em repouso durante a sincronização de ficheiros</translation>
+        <translation>Não entrar em suspensão durante a sincronização de ficheiros</translation>
     </message>
     <message>
         <source>Move files deleted on Corvimo Server to the trash</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Esta definição é gerida pelo seu administrador.</translation>
+        <translation>Esta definição é gerida pelo administrador.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3385,31 +3385,31 @@
     </message>
     <message>
         <source>All files are listed on this computer, but a file is only downloaded when you open it.</source>
-        <translation>Todos os ficheiros são apresentados neste computador, mas um ficheiro só é descarregado quando o abrir.</translation>
+        <translation>Todos os ficheiros são apresentados neste computador, mas um ficheiro só será descarregado quando o abrir.</translation>
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>Ativar ficheiros a pedido</translation>
+        <translation>Utilizar “Ficheiros a pedido”</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>Pretende ativar os ficheiros a pedido para “%1”? Os ficheiros que já estão neste computador permanecem aqui.</translation>
+        <translation>Pretende utilizar a funcionalidade “Ficheiros a pedido” para “%1”? Os ficheiros que já estão neste computador permanecem aqui.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>Os ficheiros a pedido estão ativados.</translation>
+        <translation>A funcionalidade “Ficheiros a pedido” está ativada.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>Desativar ficheiros a pedido</translation>
+        <translation>Desativar “Ficheiros a pedido”</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>Pretende desativar os ficheiros a pedido? Todos os ficheiros desta pasta serão descarregados (%1).</translation>
+        <translation>Pretende desativar a funcionalidade “Ficheiros a pedido”? Todos os ficheiros desta pasta serão descarregados (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
-        <translation>Não há espaço suficiente para descarregar todos os ficheiros. São necessários mais %1.</translation>
+        <translation>Não há espaço suficiente para descarregar todos os ficheiros. Espaço adicional necessário: %1.</translation>
     </message>
     <message>
         <source>Online only</source>
@@ -3425,11 +3425,11 @@
     </message>
     <message>
         <source>Files that will be available online only: %1. Do you want to continue?</source>
-        <translation>%1 ficheiros ficarão disponíveis apenas online. Pretende continuar?</translation>
+        <translation>Ficheiros que ficarão disponíveis apenas online: %1. Pretende continuar?</translation>
     </message>
     <message>
         <source>%1 of disk space was freed.</source>
-        <translation>Foram libertados %1 de espaço em disco.</translation>
+        <translation>Espaço em disco libertado: %1.</translation>
     </message>
     <message>
         <source>Files that have not been uploaded yet stay on this computer.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>Os ficheiros não abertos durante %1 dias passam a estar apenas online</translation>
+        <translation>Manter apenas online os ficheiros não abertos durante este número de dias: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3457,7 +3457,7 @@
     </message>
     <message>
         <source>Block downloads by this program</source>
-        <translation>Bloquear descargas deste programa</translation>
+        <translation>Bloquear descargas feitas por este programa</translation>
     </message>
     <message>
         <source>A program is opening many online-only files. Do you want to allow it?</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>Os ficheiros a pedido não são suportados por esta versão do sistema.</translation>
+        <translation>A funcionalidade “Ficheiros a pedido” não é suportada por esta versão do sistema.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>Os ficheiros a pedido não são suportados neste disco.</translation>
+        <translation>A funcionalidade “Ficheiros a pedido” não é suportada neste disco.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>Permita a extensão do fornecedor de ficheiros nas definições do sistema para utilizar ficheiros a pedido.</translation>
+        <translation>Permita a extensão do fornecedor de ficheiros nas definições do sistema para utilizar a funcionalidade “Ficheiros a pedido”.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3581,7 +3581,7 @@
     </message>
     <message>
         <source>Files to download: %1 (%2).</source>
-        <translation>%1 ficheiros (%2) serão descarregados.</translation>
+        <translation>Ficheiros a descarregar: %1 (%2).</translation>
     </message>
     <message>
         <source>You are all set</source>
@@ -3617,35 +3617,35 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 bytes</translation>
+        <translation>%1 B</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/s</translation>
+        <translation>%1 KB/s</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/s</translation>
+        <translation>%1 MB/s</translation>
     </message>
     <message>
         <source>%1 percent</source>
-        <translation>%1 por cento</translation>
+        <translation>%1 por cento</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -3665,7 +3665,7 @@
     </message>
     <message>
         <source>Items: %1</source>
-        <translation>%1 itens</translation>
+        <translation>Itens: %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3673,7 +3673,7 @@
     </message>
     <message>
         <source>Files: %1, folders: %2</source>
-        <translation>%1 ficheiros, %2 pastas</translation>
+        <translation>Ficheiros: %1, pastas: %2</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -3737,31 +3737,31 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 segundos</translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 minutos</translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 horas</translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 dias</translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 s left</source>
-        <translation>%1 segundos restantes</translation>
+        <translation>Tempo restante: %1 s</translation>
     </message>
     <message>
         <source>%1 min left</source>
-        <translation>%1 minutos restantes</translation>
+        <translation>Tempo restante: %1 min</translation>
     </message>
     <message>
         <source>%1 h left</source>
-        <translation>%1 horas restantes</translation>
+        <translation>Tempo restante: %1 h</translation>
     </message>
     <message>
         <source>Monday</source>
