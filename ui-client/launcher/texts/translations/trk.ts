@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Unlink</source>
-        <translation>Eşlemeyi kaldır</translation>
+        <translation>İlişkiyi kaldır</translation>
     </message>
     <message>
         <source>File added: </source>
@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>Eşitleme görevleri</translation>
+        <translation>Eşitleme</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>Yedekleme görevleri</translation>
+        <translation>Yedekleme</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; could not be created. Choose another name or check your permissions.</source>
-        <translation>“%1” klasörü oluşturulamadı. Başka bir ad seçin veya izninizi denetleyin.</translation>
+        <translation>“%1” klasörü oluşturulamadı. Başka bir ad seçin veya izinlerinizi denetleyin.</translation>
     </message>
     <message>
         <source>Create an empty folder named &quot;%1&quot; here</source>
@@ -645,7 +645,7 @@
     </message>
     <message>
         <source>Files with the same name will be replaced. This cannot be undone.</source>
-        <translation>Aynı ada sahip dosyalar değiştirilecek. Bu işlem geri alınamaz.</translation>
+        <translation>Aynı ada sahip dosyaların üzerine yazılacak. Bu işlem geri alınamaz.</translation>
     </message>
     <message>
         <source>Comparing both folders...</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
-        <translation>Bu bilgisayara nelerin eşitleneceğini seçin. Seçimini kaldırdığınız klasörler bu bilgisayardan kaldırılır ancak Corvimo Server sunucusunda kalır.</translation>
+        <translation>Bu bilgisayarla nelerin eşitleneceğini seçin. Seçimini kaldırdığınız klasörler bu bilgisayardan kaldırılır ancak Corvimo Server sunucusunda kalır.</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>Süzgeç nedeniyle eşitlenmiyor</translation>
+        <translation>Süzgeç nedeniyle hariç tutuldu</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>Belgeler</translation>
+        <translation>Belge dosyaları</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>Resimler</translation>
+        <translation>Resim dosyaları</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>Videolar</translation>
+        <translation>Video dosyaları</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>Müzik</translation>
+        <translation>Müzik dosyaları</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -897,7 +897,7 @@
     </message>
     <message>
         <source>Do you want to replace the current version with the one from %1?</source>
-        <translation>Geçerli sürümü şu tarihli sürümle değiştirmek istiyor musunuz: %1?</translation>
+        <translation>Geçerli sürümü %1 tarihli sürümle değiştirmek istiyor musunuz?</translation>
     </message>
     <message>
         <source>The current version is kept in the history.</source>
@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; was restored to the version from %2.</source>
-        <translation>“%1” şu tarihli sürüme geri yüklendi: %2.</translation>
+        <translation>“%1”, %2 tarihli sürüme geri döndürüldü.</translation>
     </message>
     <message>
         <source>The version could not be restored. Try again later.</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>Bu klasör için sürüm geçmişi kapalı. Corvimo Server yöneticisinden açmasını isteyin.</translation>
+        <translation>Bu klasör için sürüm geçmişi kapalı. Yöneticiden açmasını isteyin.</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -1025,7 +1025,7 @@
     </message>
     <message>
         <source>Message (optional)</source>
-        <translation>İleti (isteğe bağlı)</translation>
+        <translation>İleti (zorunlu değil)</translation>
     </message>
     <message>
         <source>Add</source>
@@ -1061,7 +1061,7 @@
     </message>
     <message>
         <source>The permissions of %1 were changed.</source>
-        <translation>%1 adlı kullanıcının izni değiştirildi.</translation>
+        <translation>%1 adlı kullanıcının izinleri değiştirildi.</translation>
     </message>
     <message>
         <source>You do not have permission to share this item. Ask its owner.</source>
@@ -1089,7 +1089,7 @@
     </message>
     <message>
         <source>Do you want to leave the shared folder &quot;%1&quot;? It will be removed from this computer.</source>
-        <translation>“%1” paylaşılan klasöründen ayrılmak istiyor musunuz? Klasör bu bilgisayardan kaldırılacak.</translation>
+        <translation>Paylaşılan “%1” klasöründen ayrılmak istiyor musunuz? Klasör bu bilgisayardan kaldırılacak.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no longer shared with you.</source>
@@ -1109,23 +1109,23 @@
     </message>
     <message>
         <source>Link settings</source>
-        <translation>Bağlantı ayarları</translation>
+        <translation>Paylaşım bağlantısı ayarları</translation>
     </message>
     <message>
         <source>Create link</source>
-        <translation>Bağlantı oluştur</translation>
+        <translation>Paylaşım bağlantısı oluştur</translation>
     </message>
     <message>
         <source>Creating link...</source>
-        <translation>Bağlantı oluşturuluyor...</translation>
+        <translation>Paylaşım bağlantısı oluşturuluyor...</translation>
     </message>
     <message>
         <source>Delete link</source>
-        <translation>Bağlantıyı sil</translation>
+        <translation>Paylaşım bağlantısını sil</translation>
     </message>
     <message>
         <source>Do you want to delete this link? People who have it can no longer open the item.</source>
-        <translation>Bu bağlantıyı silmek istiyor musunuz? Bağlantıya sahip kişiler artık öğeyi açamaz.</translation>
+        <translation>Bu paylaşım bağlantısını silmek istiyor musunuz? Bağlantıya sahip kişiler artık öğeyi açamaz.</translation>
     </message>
     <message>
         <source>Anyone with the link</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>Geçerlilik sonu</translation>
+        <translation>Paylaşım bağlantısının geçerlilik sonu</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1165,7 +1165,7 @@
     </message>
     <message>
         <source>This link has expired.</source>
-        <translation>Bu bağlantının süresi doldu.</translation>
+        <translation>Bu paylaşım bağlantısının süresi doldu.</translation>
     </message>
     <message>
         <source>Number of downloads allowed</source>
@@ -1185,11 +1185,11 @@
     </message>
     <message>
         <source>The link could not be created. Try again later.</source>
-        <translation>Bağlantı oluşturulamadı. Daha sonra yeniden deneyin.</translation>
+        <translation>Paylaşım bağlantısı oluşturulamadı. Daha sonra yeniden deneyin.</translation>
     </message>
     <message>
         <source>The administrator has turned off links for this folder.</source>
-        <translation>Yönetici bu klasör için bağlantıları kapattı.</translation>
+        <translation>Yönetici bu klasör için paylaşım bağlantılarını kapattı.</translation>
     </message>
     <message>
         <source>File request</source>
@@ -1385,7 +1385,7 @@
     </message>
     <message>
         <source>Connected</source>
-        <translation>Bağlandı</translation>
+        <translation>Bağlı</translation>
     </message>
     <message>
         <source>Connected to %1</source>
@@ -1413,15 +1413,15 @@
     </message>
     <message>
         <source>Connected over the local network</source>
-        <translation>Yerel ağ üzerinden bağlandı</translation>
+        <translation>Yerel ağ üzerinden bağlı</translation>
     </message>
     <message>
         <source>Connected over the Internet</source>
-        <translation>İnternet üzerinden bağlandı</translation>
+        <translation>İnternet üzerinden bağlı</translation>
     </message>
     <message>
         <source>Connected through a relay server</source>
-        <translation>Aktarma sunucusu üzerinden bağlandı</translation>
+        <translation>Aktarma sunucusu üzerinden bağlı</translation>
     </message>
     <message>
         <source>The relay server is slower than a direct connection.</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>Bu ağda sunucu bulunamadı. Adresini kendiniz girin.</translation>
+        <translation>Bu ağda sunucu bulunamadı. Sunucu adresini elle girin.</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1481,11 +1481,11 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>Sunucuda bakım yapılıyor. Sunucu geri döndüğünde eşitleme sürecek.</translation>
+        <translation>Sunucuda bakım yapılıyor. Sunucu yeniden kullanılabilir olduğunda eşitleme sürecek.</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
-        <translation>Corvimo Server bu istemci için çok eski. Yöneticiden %1 veya daha yeni bir sürüme güncellemesini isteyin.</translation>
+        <translation>Corvimo Server bu istemci için çok eski. Yöneticiden sunucuyu %1 veya daha yeni bir sürüme güncellemesini isteyin.</translation>
     </message>
     <message>
         <source>This client is too old for Corvimo Server. Update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>Bir güvenlik duvarı Corvimo Client uygulamasını engelliyor olabilir. Şu bağlantı noktasını kullanmasına izin verin: %1.</translation>
+        <translation>Bir güvenlik duvarı Corvimo Client uygulamasını engelliyor olabilir. Corvimo Client uygulamasının şu bağlantı noktasını kullanmasına izin verin: %1.</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1553,7 +1553,7 @@
     </message>
     <message>
         <source>Set up the proxy yourself</source>
-        <translation>Vekil sunucuyu kendim ayarlayacağım</translation>
+        <translation>Vekil sunucuyu elle ayarla</translation>
     </message>
     <message>
         <source>Proxy type</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>Lütfen bekleyin...</translation>
+        <translation>Hesaplanıyor...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>%1 geçici dosya silindi.</translation>
+        <translation>Geçici dosyalar silindi (%1).</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1993,7 +1993,7 @@
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>Önceki sürümün bazı ayarları aktarılamadı. Lütfen eşitleme görevlerinizi denetleyin.</translation>
+        <translation>Önceki sürümün bazı ayarları aktarılamadı. Eşitleme görevlerinizi denetleyin.</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2261,7 +2261,7 @@
     </message>
     <message>
         <source>Time</source>
-        <translation>Saat</translation>
+        <translation>Zaman</translation>
     </message>
     <message>
         <source>Retry all</source>
@@ -2305,7 +2305,7 @@
     </message>
     <message>
         <source>The file was damaged during the transfer. It will be transferred again.</source>
-        <translation>Dosya yolda hasar gördü. Yeniden aktarılacak.</translation>
+        <translation>Dosya aktarılırken bozuldu. Yeniden aktarılacak.</translation>
     </message>
     <message>
         <source>The file cannot be read. Check its permissions.</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message>
         <source>Your session has ended. Sign in again.</source>
-        <translation>Oturumunuz sona erdi. Lütfen yeniden oturum açın.</translation>
+        <translation>Oturumunuz sona erdi. Yeniden oturum açın.</translation>
     </message>
     <message>
         <source>The data of Corvimo Server was reset. Set up your sync tasks again.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Bu bilgisayarın saati ile sunucunun saati arasında %1 dakikadan fazla fark var. Lütfen saati doğru ayarlayın.</translation>
+        <translation>Bu bilgisayarın saati ile sunucunun saati arasında %1 dakikadan fazla fark var. Bu bilgisayarın saatini düzeltin.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>Durum simgeleri gösterilemiyor çünkü bunlara ayrılan tüm yerleri başka programlar kullanıyor.</translation>
+        <translation>Durum simgeleri gösterilemiyor çünkü simgelere ayrılan tüm yerleri başka programlar kullanıyor.</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>Sorun sürerse Corvimo Server yöneticisine başvurun.</translation>
+        <translation>Sorun sürerse yöneticiye başvurun.</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>Hesabınız bir etki alanına aitse adınızı etkialanı\kullanıcı biçiminde girin.</translation>
+        <translation>Hesabınız bir etki alanına aitse kullanıcı adınızı etkialanı\kullanıcı biçiminde girin.</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>Ad</translation>
+        <translation>Ad ve soyad</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,7 +2689,7 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>Yönetici parolanızı değiştirmenizi istiyor.</translation>
+        <translation>Yönetici parolanızı değiştirmenizi zorunlu kılıyor.</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
@@ -2753,15 +2753,15 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>Bağlı aygıtlar</translation>
+        <translation>Hesapla ilişkili aygıtlar</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
-        <translation>“%1” aygıtının eşlemesini kaldırmak istiyor musunuz? Aygıtta oturum kapatılır ve eşitleme durur.</translation>
+        <translation>“%1” aygıtının hesapla ilişkisini kaldırmak istiyor musunuz? Aygıtta oturum kapatılır ve eşitleme durur.</translation>
     </message>
     <message>
         <source>This computer was unlinked by %1. Sign in again to continue syncing.</source>
-        <translation>Bu bilgisayarın eşlemesi kaldırıldı, kaldıran: %1. Eşitlemeyi sürdürmek için yeniden oturum açın.</translation>
+        <translation>Bu bilgisayarın hesapla ilişkisi kaldırıldı, kaldıran: %1. Eşitlemeyi sürdürmek için yeniden oturum açın.</translation>
     </message>
     <message>
         <source>This computer</source>
@@ -2785,7 +2785,7 @@
     </message>
     <message>
         <source>6 digits</source>
-        <translation>6 rakam</translation>
+        <translation>6 haneli</translation>
     </message>
     <message>
         <source>Verify</source>
@@ -3085,7 +3085,7 @@
     </message>
     <message>
         <source>The backup scheduled for %1 was missed. It starts now.</source>
-        <translation>%1 için planlanan yedekleme kaçırıldı. Şimdi başlıyor.</translation>
+        <translation>%1 için zamanlanan yedekleme kaçırıldı. Şimdi başlıyor.</translation>
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
@@ -3157,7 +3157,7 @@
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>Doğrula</translation>
+        <translation>Yedeği doğrula</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3281,7 +3281,7 @@
     </message>
     <message>
         <source>The log was sent. Your report number is %1.</source>
-        <translation>Günlük gönderildi. Bildirim numaranız: %1.</translation>
+        <translation>Günlük gönderildi. Rapor numaranız: %1.</translation>
     </message>
     <message>
         <source>The log could not be sent. Save it and send it by email.</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>Bu ayar yöneticiniz tarafından yönetiliyor.</translation>
+        <translation>Bu ayar yönetici tarafından yönetiliyor.</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>İsteğe bağlı dosyaları aç</translation>
+        <translation>“İsteğe bağlı dosyalar” özelliğini kullan</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>“%1” için isteğe bağlı dosyaları açmak istiyor musunuz? Zaten bu bilgisayarda olan dosyalar burada kalır.</translation>
+        <translation>“%1” için “İsteğe bağlı dosyalar” özelliğini kullanmak istiyor musunuz? Zaten bu bilgisayarda olan dosyalar burada kalır.</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>İsteğe bağlı dosyalar açık.</translation>
+        <translation>“İsteğe bağlı dosyalar” özelliği açık.</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>İsteğe bağlı dosyaları kapat</translation>
+        <translation>“İsteğe bağlı dosyalar” özelliğini kapat</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>İsteğe bağlı dosyaları kapatmak istiyor musunuz? Bu klasörün tüm dosyaları indirilecek (%1).</translation>
+        <translation>“İsteğe bağlı dosyalar” özelliğini kapatmak istiyor musunuz? Bu klasörün tüm dosyaları indirilecek (%1).</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>%1 gün açılmayan dosyalar yalnızca çevrimiçi olsun</translation>
+        <translation>Şu kadar gün açılmayan dosyaları yalnızca çevrimiçi yap: %1</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3473,15 +3473,15 @@
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>İsteğe bağlı dosyalar sistemin bu sürümünde desteklenmiyor.</translation>
+        <translation>“İsteğe bağlı dosyalar” özelliği sistemin bu sürümünde desteklenmiyor.</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>İsteğe bağlı dosyalar bu diskte desteklenmiyor.</translation>
+        <translation>“İsteğe bağlı dosyalar” özelliği bu diskte desteklenmiyor.</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>İsteğe bağlı dosyaları kullanmak için sistem ayarlarında dosya sağlayıcı genişletmesine izin verin.</translation>
+        <translation>“İsteğe bağlı dosyalar” özelliğini kullanmak için sistem ayarlarında dosya sağlayıcı genişletmesine izin verin.</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
@@ -3545,7 +3545,7 @@
     </message>
     <message>
         <source>Your files will be synced to &quot;%1&quot;.</source>
-        <translation>Dosyalarınız şu klasöre eşitlenecek: “%1”.</translation>
+        <translation>Dosyalarınız şu klasörle eşitlenecek: “%1”.</translation>
     </message>
     <message>
         <source>Team folders</source>
@@ -3609,7 +3609,7 @@
     </message>
     <message>
         <source>Do you want to quit the setup? You can continue later.</source>
-        <translation>Ayarlamadan çıkmak istiyor musunuz? Daha sonra devam edebilirsiniz.</translation>
+        <translation>Kurulumdan çıkmak istiyor musunuz? Daha sonra devam edebilirsiniz.</translation>
     </message>
     <message>
         <source>Settings of an earlier installation were found. Do you want to use them?</source>
@@ -3617,31 +3617,31 @@
     </message>
     <message>
         <source>%1 B</source>
-        <translation>%1 bayt</translation>
+        <translation>%1 bayt</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1 GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1 TB</translation>
     </message>
     <message>
         <source>%1 KB/s</source>
-        <translation>%1 KB/sn</translation>
+        <translation>%1 KB/sn</translation>
     </message>
     <message>
         <source>%1 MB/s</source>
-        <translation>%1 MB/sn</translation>
+        <translation>%1 MB/sn</translation>
     </message>
     <message>
         <source>%1 percent</source>
@@ -3737,19 +3737,19 @@
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 saniye</translation>
+        <translation>%1 saniye</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation>%1 dakika</translation>
+        <translation>%1 dakika</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation>%1 saat</translation>
+        <translation>%1 saat</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation>%1 gün</translation>
+        <translation>%1 gün</translation>
     </message>
     <message>
         <source>%1 s left</source>
