@@ -345,11 +345,11 @@
     </message>
     <message>
         <source>Sync</source>
-        <translation>งานซิงค์</translation>
+        <translation>การซิงค์</translation>
     </message>
     <message>
         <source>Backup</source>
-        <translation>งานสำรองข้อมูล</translation>
+        <translation>การสำรองข้อมูล</translation>
     </message>
     <message>
         <source>Recent activity</source>
@@ -713,7 +713,7 @@
     </message>
     <message>
         <source>Choose what to sync to this computer. Folders that you deselect are removed from this computer but stay on Corvimo Server.</source>
-        <translation>เลือกสิ่งที่จะซิงค์ไปยังคอมพิวเตอร์เครื่องนี้ โฟลเดอร์ที่คุณไม่เลือกจะถูกเอาออกจากคอมพิวเตอร์เครื่องนี้แต่จะยังอยู่ใน Corvimo Server</translation>
+        <translation>เลือกสิ่งที่จะซิงค์ไปยังคอมพิวเตอร์เครื่องนี้ โฟลเดอร์ที่คุณยกเลิกการเลือกจะถูกเอาออกจากคอมพิวเตอร์เครื่องนี้แต่จะยังอยู่ใน Corvimo Server</translation>
     </message>
     <message>
         <source>Folders</source>
@@ -725,7 +725,7 @@
     </message>
     <message>
         <source>Select none</source>
-        <translation>ไม่เลือกทั้งหมด</translation>
+        <translation>ยกเลิกการเลือกทั้งหมด</translation>
     </message>
     <message>
         <source>Sync new folders automatically</source>
@@ -817,7 +817,7 @@
     </message>
     <message>
         <source>Excluded by filter</source>
-        <translation>ไม่ซิงค์เนื่องจากตัวกรอง</translation>
+        <translation>ถูกยกเว้นโดยตัวกรอง</translation>
     </message>
     <message>
         <source>Your choice was saved. Corvimo Client is now applying it.</source>
@@ -825,19 +825,19 @@
     </message>
     <message>
         <source>Document files</source>
-        <translation>เอกสาร</translation>
+        <translation>ไฟล์เอกสาร</translation>
     </message>
     <message>
         <source>Picture files</source>
-        <translation>รูปภาพ</translation>
+        <translation>ไฟล์รูปภาพ</translation>
     </message>
     <message>
         <source>Video files</source>
-        <translation>วิดีโอ</translation>
+        <translation>ไฟล์วิดีโอ</translation>
     </message>
     <message>
         <source>Music files</source>
-        <translation>เพลง</translation>
+        <translation>ไฟล์เพลง</translation>
     </message>
     <message>
         <source>Archives</source>
@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>Do you want to delete this version? It cannot be brought back.</source>
-        <translation>คุณต้องการลบเวอร์ชันนี้หรือไม่ จะไม่สามารถนำกลับมาได้</translation>
+        <translation>คุณต้องการลบเวอร์ชันนี้หรือไม่ เมื่อลบแล้วจะไม่สามารถนำกลับมาได้</translation>
     </message>
     <message>
         <source>The version could not be deleted.</source>
@@ -941,7 +941,7 @@
     </message>
     <message>
         <source>Version history is turned off for this folder. Ask the administrator to turn it on.</source>
-        <translation>ประวัติเวอร์ชันของโฟลเดอร์นี้ปิดอยู่ โปรดขอให้ผู้ดูแลระบบของ Corvimo Server เปิดใช้</translation>
+        <translation>ประวัติเวอร์ชันของโฟลเดอร์นี้ปิดอยู่ โปรดขอให้ผู้ดูแลระบบเปิดใช้</translation>
     </message>
     <message>
         <source>Versions are not kept for this type of file.</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Go back to a point in time</source>
-        <translation>ย้อนกลับไปยังช่วงเวลาหนึ่ง</translation>
+        <translation>ย้อนกลับไปยังเวลาที่เลือก</translation>
     </message>
     <message>
         <source>Choose a date and time</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message>
         <source>Link valid until</source>
-        <translation>ใช้ได้จนถึง</translation>
+        <translation>ลิงก์ใช้ได้จนถึง</translation>
     </message>
     <message>
         <source>Never expires</source>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>Do you want to delete the conflicted copies (%1)? They cannot be brought back.</source>
-        <translation>คุณต้องการลบสำเนาที่ขัดแย้งกัน %1 รายการหรือไม่ จะไม่สามารถนำกลับมาได้</translation>
+        <translation>คุณต้องการลบสำเนาที่ขัดแย้งกัน %1 รายการหรือไม่ เมื่อลบแล้วจะไม่สามารถนำกลับมาได้</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open in another program and will be synced when it is closed.</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>The connection to %1 was lost. Corvimo Client will try again in %2 seconds.</source>
-        <translation>ขาดการเชื่อมต่อกับ %1 แล้ว โดย Corvimo Client จะลองอีกครั้งใน %2 วินาที</translation>
+        <translation>ขาดการเชื่อมต่อกับ %1 แล้ว Corvimo Client จะลองอีกครั้งในอีก %2 วินาที</translation>
     </message>
     <message>
         <source>The connection to %1 is back.</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>No server was found on this network. Enter the server address yourself.</source>
-        <translation>ไม่พบเซิร์ฟเวอร์ในเครือข่ายนี้ โปรดป้อนที่อยู่ด้วยตนเอง</translation>
+        <translation>ไม่พบเซิร์ฟเวอร์ในเครือข่ายนี้ โปรดป้อนที่อยู่ของเซิร์ฟเวอร์ด้วยตนเอง</translation>
     </message>
     <message>
         <source>Servers found: %1</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>The server is down for maintenance. Syncing continues when it is available again.</source>
-        <translation>เซิร์ฟเวอร์อยู่ระหว่างการบำรุงรักษา การซิงค์จะดำเนินต่อเมื่อเซิร์ฟเวอร์กลับมา</translation>
+        <translation>เซิร์ฟเวอร์อยู่ระหว่างการบำรุงรักษา การซิงค์จะดำเนินต่อเมื่อเซิร์ฟเวอร์พร้อมใช้งานอีกครั้ง</translation>
     </message>
     <message>
         <source>Corvimo Server is too old for this client. Ask the administrator to update it to version %1 or later.</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message>
         <source>A firewall may be blocking Corvimo Client. Allow Corvimo Client to use port %1.</source>
-        <translation>ไฟร์วอลล์อาจบล็อก Corvimo Client อยู่ โปรดอนุญาตให้ใช้พอร์ต %1</translation>
+        <translation>ไฟร์วอลล์อาจบล็อก Corvimo Client อยู่ โปรดอนุญาตให้ Corvimo Client ใช้พอร์ต %1</translation>
     </message>
     <message>
         <source>A secure connection could not be set up: %1</source>
@@ -1597,7 +1597,7 @@
     </message>
     <message>
         <source>The proxy %1 cannot be reached. Check its address and port.</source>
-        <translation>ไม่สามารถเข้าถึงพร็อกซี %1 โปรดตรวจสอบที่อยู่และพอร์ต</translation>
+        <translation>ไม่สามารถเข้าถึงพร็อกซี %1 ได้ โปรดตรวจสอบที่อยู่และพอร์ต</translation>
     </message>
     <message>
         <source>The proxy does not allow connections to %1.</source>
@@ -1781,7 +1781,7 @@
     </message>
     <message>
         <source>Calculating...</source>
-        <translation>โปรดรอสักครู่...</translation>
+        <translation>กำลังคำนวณ...</translation>
     </message>
     <message>
         <source>Your storage is almost full. Only %1 is left.</source>
@@ -1797,7 +1797,7 @@
     </message>
     <message>
         <source>The folder &quot;%1&quot; has reached its quota. New files in it cannot be uploaded.</source>
-        <translation>โฟลเดอร์ “%1” ใช้โควต้าเต็มแล้ว ไม่สามารถอัปโหลดไฟล์ใหม่ในโฟลเดอร์นี้ได้</translation>
+        <translation>โฟลเดอร์ “%1” ใช้โควตาเต็มแล้ว ไม่สามารถอัปโหลดไฟล์ใหม่ในโฟลเดอร์นี้ได้</translation>
     </message>
     <message>
         <source>The volume of Corvimo Server is full. Ask the administrator to make room.</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message>
         <source>You can free up space with selective sync or by keeping files online only.</source>
-        <translation>คุณสามารถเพิ่มพื้นที่ว่างได้ด้วยการซิงค์แบบเลือกหรือเก็บไฟล์ไว้ออนไลน์เท่านั้น</translation>
+        <translation>คุณสามารถเพิ่มพื้นที่ว่างได้ด้วยการซิงค์แบบเลือกหรือเก็บไฟล์ให้อยู่ทางออนไลน์เท่านั้น</translation>
     </message>
     <message>
         <source>Open storage settings</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message>
         <source>Temporary files were deleted (%1).</source>
-        <translation>ลบไฟล์ชั่วคราว %1 แล้ว</translation>
+        <translation>ลบไฟล์ชั่วคราวแล้ว (%1)</translation>
     </message>
     <message>
         <source>Check again</source>
@@ -1913,7 +1913,7 @@
     </message>
     <message>
         <source>The quota of the group &quot;%1&quot; is used up.</source>
-        <translation>โควต้าของกลุ่ม “%1” ถูกใช้หมดแล้ว</translation>
+        <translation>โควตาของกลุ่ม “%1” ถูกใช้หมดแล้ว</translation>
     </message>
     <message>
         <source>%1 is ready.</source>
@@ -1985,15 +1985,15 @@
     </message>
     <message>
         <source>Your settings are being imported from the earlier version.</source>
-        <translation>กำลังนำการตั้งค่าของคุณมาจากเวอร์ชันก่อนหน้า</translation>
+        <translation>กำลังย้ายการตั้งค่าของคุณมาจากเวอร์ชันก่อนหน้า</translation>
     </message>
     <message>
         <source>Your settings were imported. You can continue where you left off.</source>
-        <translation>นำการตั้งค่าของคุณมาแล้ว คุณสามารถทำต่อจากจุดที่ค้างไว้ได้</translation>
+        <translation>ย้ายการตั้งค่าของคุณมาเรียบร้อยแล้ว คุณสามารถทำต่อจากจุดที่ค้างไว้ได้</translation>
     </message>
     <message>
         <source>Some settings of the earlier version could not be imported. Check your sync tasks.</source>
-        <translation>ไม่สามารถนำการตั้งค่าบางส่วนมาจากเวอร์ชันก่อนหน้าได้ โปรดตรวจสอบงานซิงค์ของคุณ</translation>
+        <translation>ไม่สามารถย้ายการตั้งค่าบางส่วนมาจากเวอร์ชันก่อนหน้าได้ โปรดตรวจสอบงานซิงค์ของคุณ</translation>
     </message>
     <message>
         <source>The update needs %1 of disk space.</source>
@@ -2485,7 +2485,7 @@
     </message>
     <message>
         <source>Permission denied</source>
-        <translation>สิทธิ์ถูกปฏิเสธ</translation>
+        <translation>ไม่ได้รับอนุญาต</translation>
     </message>
     <message>
         <source>The disk reported a read or write error. Check the disk for faults.</source>
@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>นาฬิกาของคอมพิวเตอร์เครื่องนี้ต่างจากนาฬิกาของเซิร์ฟเวอร์มากกว่า %1 นาที โปรดตั้งให้ถูกต้อง</translation>
+        <translation>นาฬิกาของคอมพิวเตอร์เครื่องนี้ต่างจากนาฬิกาของเซิร์ฟเวอร์มากกว่า %1 นาที โปรดตั้งเวลาของคอมพิวเตอร์เครื่องนี้ให้ถูกต้อง</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message>
         <source>The status icons cannot be shown because other programs already use all available icon slots.</source>
-        <translation>ไม่สามารถแสดงไอคอนสถานะได้เนื่องจากโปรแกรมอื่นใช้ตำแหน่งทั้งหมดแล้ว</translation>
+        <translation>ไม่สามารถแสดงไอคอนสถานะได้เนื่องจากโปรแกรมอื่นใช้ตำแหน่งไอคอนที่มีทั้งหมดแล้ว</translation>
     </message>
     <message>
         <source>Corvimo Client needs your permission to read this folder. Allow it in the privacy settings of this computer.</source>
@@ -2573,7 +2573,7 @@
     </message>
     <message>
         <source>If the problem remains, ask the administrator.</source>
-        <translation>หากยังพบปัญหาอยู่ โปรดสอบถามผู้ดูแลระบบของ Corvimo Server</translation>
+        <translation>หากยังพบปัญหาอยู่ โปรดสอบถามผู้ดูแลระบบ</translation>
     </message>
     <message>
         <source>If the problem remains, contact support and give the error code.</source>
@@ -2641,7 +2641,7 @@
     </message>
     <message>
         <source>Enter your user name as domain\user if your account belongs to a domain.</source>
-        <translation>หากบัญชีของคุณอยู่ในโดเมน ให้ป้อนชื่อในรูปแบบ โดเมน\ผู้ใช้</translation>
+        <translation>หากบัญชีของคุณอยู่ในโดเมน ให้ป้อนชื่อผู้ใช้ในรูปแบบ โดเมน\ผู้ใช้</translation>
     </message>
     <message>
         <source>Add account</source>
@@ -2665,7 +2665,7 @@
     </message>
     <message>
         <source>Full name</source>
-        <translation>ชื่อ</translation>
+        <translation>ชื่อและนามสกุล</translation>
     </message>
     <message>
         <source>Change password</source>
@@ -2689,11 +2689,11 @@
     </message>
     <message>
         <source>The administrator requires you to change your password.</source>
-        <translation>ผู้ดูแลระบบขอให้คุณเปลี่ยนรหัสผ่าน</translation>
+        <translation>ผู้ดูแลระบบกำหนดให้คุณเปลี่ยนรหัสผ่าน</translation>
     </message>
     <message>
         <source>Days until your password expires: %1.</source>
-        <translation>รหัสผ่านของคุณจะหมดอายุใน %1 วัน</translation>
+        <translation>รหัสผ่านของคุณจะหมดอายุในอีก %1 วัน</translation>
     </message>
     <message>
         <source>The two passwords are not the same.</source>
@@ -2753,7 +2753,7 @@
     </message>
     <message>
         <source>Linked devices</source>
-        <translation>อุปกรณ์ที่เชื่อมต่อ</translation>
+        <translation>อุปกรณ์ที่เชื่อมโยง</translation>
     </message>
     <message>
         <source>Do you want to unlink &quot;%1&quot;? It will be signed out and stop syncing.</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message>
         <source>Scan this code with your authenticator app.</source>
-        <translation>สแกนรหัสนี้ด้วยแอปยืนยันตัวตนของคุณ</translation>
+        <translation>สแกนคิวอาร์โค้ดนี้ด้วยแอปยืนยันตัวตนของคุณ</translation>
     </message>
     <message>
         <source>Two-step sign-in is on.</source>
@@ -3085,7 +3085,7 @@
     </message>
     <message>
         <source>The backup scheduled for %1 was missed. It starts now.</source>
-        <translation>พลาดการสำรองข้อมูลที่วางแผนไว้สำหรับ %1 การสำรองข้อมูลจะเริ่มขณะนี้</translation>
+        <translation>พลาดการสำรองข้อมูลที่กำหนดไว้เมื่อ %1 การสำรองข้อมูลจะเริ่มทันที</translation>
     </message>
     <message>
         <source>Days since the last backup of this computer: %1.</source>
@@ -3157,7 +3157,7 @@
     </message>
     <message>
         <source>Verify backup</source>
-        <translation>ตรวจสอบ</translation>
+        <translation>ตรวจสอบข้อมูลสำรอง</translation>
     </message>
     <message>
         <source>The backup is intact.</source>
@@ -3289,7 +3289,7 @@
     </message>
     <message>
         <source>The log contains names of files and folders but not their contents.</source>
-        <translation>บันทึกการทำงานมีชื่อของไฟล์และโฟลเดอร์ แต่ไม่มีเนื้อหา</translation>
+        <translation>บันทึกการทำงานมีชื่อของไฟล์และโฟลเดอร์ แต่ไม่มีเนื้อหาของไฟล์</translation>
     </message>
     <message>
         <source>Send anonymous usage data to help improve Corvimo Client</source>
@@ -3365,7 +3365,7 @@
     </message>
     <message>
         <source>This setting is managed by the administrator.</source>
-        <translation>การตั้งค่านี้จัดการโดยผู้ดูแลระบบของคุณ</translation>
+        <translation>การตั้งค่านี้จัดการโดยผู้ดูแลระบบ</translation>
     </message>
     <message>
         <source>Your settings were saved.</source>
@@ -3389,23 +3389,23 @@
     </message>
     <message>
         <source>Use on-demand files</source>
-        <translation>เปิดใช้ไฟล์ตามต้องการ</translation>
+        <translation>ใช้ “ไฟล์ตามต้องการ”</translation>
     </message>
     <message>
         <source>Do you want to use on-demand files for &quot;%1&quot;? Files already on this computer stay here.</source>
-        <translation>คุณต้องการเปิดใช้ไฟล์ตามต้องการสำหรับ “%1” หรือไม่ ไฟล์ที่อยู่ในคอมพิวเตอร์เครื่องนี้แล้วจะยังอยู่ที่นี่</translation>
+        <translation>คุณต้องการใช้ “ไฟล์ตามต้องการ” สำหรับ “%1” หรือไม่ ไฟล์ที่อยู่ในคอมพิวเตอร์เครื่องนี้แล้วจะยังอยู่ที่นี่</translation>
     </message>
     <message>
         <source>On-demand files are on.</source>
-        <translation>ไฟล์ตามต้องการเปิดใช้อยู่</translation>
+        <translation>“ไฟล์ตามต้องการ” เปิดใช้อยู่</translation>
     </message>
     <message>
         <source>Turn off on-demand files</source>
-        <translation>ปิดใช้ไฟล์ตามต้องการ</translation>
+        <translation>ปิดใช้ “ไฟล์ตามต้องการ”</translation>
     </message>
     <message>
         <source>Do you want to turn off on-demand files? All files of this folder will be downloaded (%1).</source>
-        <translation>คุณต้องการปิดใช้ไฟล์ตามต้องการหรือไม่ ไฟล์ทั้งหมดของโฟลเดอร์นี้จะถูกดาวน์โหลด (%1)</translation>
+        <translation>คุณต้องการปิดใช้ “ไฟล์ตามต้องการ” หรือไม่ ไฟล์ทั้งหมดของโฟลเดอร์นี้จะถูกดาวน์โหลด (%1)</translation>
     </message>
     <message>
         <source>There is not enough space to download all files. %1 more is needed.</source>
@@ -3425,7 +3425,7 @@
     </message>
     <message>
         <source>Files that will be available online only: %1. Do you want to continue?</source>
-        <translation>%1 ไฟล์จะใช้ได้แบบออนไลน์เท่านั้น คุณต้องการดำเนินการต่อหรือไม่</translation>
+        <translation>%1 ไฟล์จะอยู่ทางออนไลน์เท่านั้น คุณต้องการดำเนินการต่อหรือไม่</translation>
     </message>
     <message>
         <source>%1 of disk space was freed.</source>
@@ -3445,7 +3445,7 @@
     </message>
     <message>
         <source>Make files online only when they have not been opened for this many days: %1</source>
-        <translation>ไฟล์ที่ไม่ได้เปิดเป็นเวลา %1 วันจะเปลี่ยนเป็นออนไลน์เท่านั้น</translation>
+        <translation>ให้ไฟล์อยู่ทางออนไลน์เท่านั้นเมื่อไม่ได้เปิดมาเป็นเวลา %1 วัน</translation>
     </message>
     <message>
         <source>Only when disk space is low</source>
@@ -3461,35 +3461,35 @@
     </message>
     <message>
         <source>A program is opening many online-only files. Do you want to allow it?</source>
-        <translation>โปรแกรมกำลังเปิดไฟล์ที่ออนไลน์เท่านั้นจำนวนมาก คุณต้องการอนุญาตหรือไม่</translation>
+        <translation>มีโปรแกรมกำลังเปิดไฟล์จำนวนมากที่อยู่ทางออนไลน์เท่านั้น คุณต้องการอนุญาตหรือไม่</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be opened because it is online only and Corvimo Client is not connected.</source>
-        <translation>ไม่สามารถเปิด “%1” ได้เนื่องจากไฟล์ออนไลน์เท่านั้นและ Corvimo Client ไม่ได้เชื่อมต่ออยู่</translation>
+        <translation>ไม่สามารถเปิด “%1” ได้เนื่องจากไฟล์อยู่ทางออนไลน์เท่านั้นและ Corvimo Client ไม่ได้เชื่อมต่ออยู่</translation>
     </message>
     <message>
         <source>Start Corvimo Client to open online-only files.</source>
-        <translation>เริ่ม Corvimo Client เพื่อเปิดไฟล์ที่ออนไลน์เท่านั้น</translation>
+        <translation>เริ่ม Corvimo Client เพื่อเปิดไฟล์ที่อยู่ทางออนไลน์เท่านั้น</translation>
     </message>
     <message>
         <source>On-demand files are not supported by this version of the system.</source>
-        <translation>ระบบเวอร์ชันนี้ไม่รองรับไฟล์ตามต้องการ</translation>
+        <translation>ระบบเวอร์ชันนี้ไม่รองรับ “ไฟล์ตามต้องการ”</translation>
     </message>
     <message>
         <source>On-demand files are not supported on this disk.</source>
-        <translation>ดิสก์นี้ไม่รองรับไฟล์ตามต้องการ</translation>
+        <translation>ดิสก์นี้ไม่รองรับ “ไฟล์ตามต้องการ”</translation>
     </message>
     <message>
         <source>Allow the file provider extension in the system settings to use on-demand files.</source>
-        <translation>อนุญาตส่วนขยายผู้ให้บริการไฟล์ในการตั้งค่าระบบเพื่อใช้ไฟล์ตามต้องการ</translation>
+        <translation>อนุญาตส่วนขยายผู้ให้บริการไฟล์ในการตั้งค่าระบบเพื่อใช้ “ไฟล์ตามต้องการ”</translation>
     </message>
     <message>
         <source>Show previews of online-only files</source>
-        <translation>แสดงตัวอย่างของไฟล์ที่ออนไลน์เท่านั้น</translation>
+        <translation>แสดงตัวอย่างของไฟล์ที่อยู่ทางออนไลน์เท่านั้น</translation>
     </message>
     <message>
         <source>The contents of online-only files cannot be searched on this computer.</source>
-        <translation>ไม่สามารถค้นหาเนื้อหาของไฟล์ที่ออนไลน์เท่านั้นในคอมพิวเตอร์เครื่องนี้ได้</translation>
+        <translation>ไม่สามารถค้นหาเนื้อหาของไฟล์ที่อยู่ทางออนไลน์เท่านั้นในคอมพิวเตอร์เครื่องนี้ได้</translation>
     </message>
     <message>
         <source>Allow</source>
@@ -3589,7 +3589,7 @@
     </message>
     <message>
         <source>Corvimo Client is now syncing your files. You can find it in the menu bar.</source>
-        <translation>Corvimo Client กำลังซิงค์ไฟล์ของคุณ คุณสามารถดูได้ในแถบเมนู</translation>
+        <translation>Corvimo Client กำลังซิงค์ไฟล์ของคุณ คุณจะพบโปรแกรมได้ในแถบเมนู</translation>
     </message>
     <message>
         <source>Take a tour</source>
