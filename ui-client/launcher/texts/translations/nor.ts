@@ -2529,7 +2529,7 @@
     </message>
     <message>
         <source>The clock of this computer differs from the clock of the server by more than %1 minutes. Correct the time on this computer.</source>
-        <translation>Klokken på denne datamaskinen avviker fra klokken på serveren med mer enn %1 minutter. Still klokken på denne datamaskinen.</translation>
+        <translation>Klokken på denne datamaskinen avviker fra klokken på serveren med mer enn %1 minutter. Still klokken på denne datamaskinen riktig.</translation>
     </message>
     <message>
         <source>This action is not supported by Corvimo Server.</source>
