@@ -1,5 +1,6 @@
 #include "lib/log.h"
 
+#include <pthread.h>
 #include <sys/stat.h>
 #include <syslog.h>
 #include <time.h>
@@ -11,33 +12,44 @@
 #include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <map>
 #include <memory>
 #include <new>
 #include <string_view>
-#include <system_error>
 
 #include "lib/config.h"
+#include "lib/platform/error_text.h"
 #include "lib/platform/regular_file.h"
 
-Logger::InitConfig Logger::config;
-std::map<std::string, int32_t> Logger::log_level;
-FILE* Logger::log_fp = stderr;
-int32_t* Logger::log_size = nullptr;
-std::string Logger::log_path;
-pthread_mutex_t* Logger::log_lock = nullptr;
-uint64_t* Logger::log_rotated_count_shared = nullptr;
-uint64_t Logger::log_rotated_count_private = 0;
-bool Logger::log_initialized = true;
-int32_t Logger::log_flock = -1;
+struct Logger::State {
+    InitConfig config;
+    std::map<std::string, int32_t> log_level;
+    FILE* log_fp = stderr;
+    int32_t* log_size = nullptr;
+    std::string log_path;
+    pthread_mutex_t* log_lock = nullptr;
+    uint64_t* log_rotated_count_shared = nullptr;
+    uint64_t log_rotated_count_private = 0;
+    bool log_initialized = true;
+    int32_t log_flock = -1;  // Reserved for a lock between processes.
+};
+
+// The first call makes the state, and nothing destroys it. If the state were a static object,
+// constructors of other static objects could log before it exists, and destructors after its end.
+Logger::State& Logger::GetState() {
+    alignas(State) static unsigned char place[sizeof(State)];
+    static State* const state = new (place) State;
+    return *state;
+}
 
 namespace {
 
-constexpr int32_t kDefaultThreshold = Logger::WARNING;
+constexpr int32_t kDefaultThreshold = Logger::LEVEL_WARNING;
 constexpr int64_t kMaxFileBytes = 0x500000;
 constexpr std::size_t kNameBytes = 1024;
 constexpr std::size_t kTimestampBytes = 512;
 
-/// Leaves errno at the end of a block as it was at its beginning.
+// Restores errno at the end of a block.
 class ErrnoKeeper {
 public:
     ErrnoKeeper() = default;
@@ -49,15 +61,16 @@ private:
     const int saved_ = errno;
 };
 
-/// Counts the configurations, so that no timestamp outlives one.
+// Grows with every `Initialize`. Each thread then makes a new timestamp, so that a change of the time
+// zone before `Initialize` takes effect at once.
 unsigned configuration_number = 0;
 
-/// The local time in front of a record, made once per second: a change of the time zone shows with
-/// the next second. Each thread has its own, because records are not always written under the lock.
-/// Needs no destruction, so that destructors of static objects may log.
+// Makes the timestamps of one thread, and keeps the last one for the rest of its second. Each thread
+// has its own, because records are not always written under the lock. Without a destructor, it can
+// be used until the thread ends.
 class Timestamp {
 public:
-    /// Holds until the thread's next call.
+    // The result is valid until the thread's next call.
     std::string_view Now() {
         const time_t now = time(nullptr);
         if (now != second_ || configuration_number != configuration_number_) {
@@ -69,7 +82,7 @@ public:
 private:
     void Make(time_t now) {
         struct tm local = {};
-        tzset();  // localtime_r, unlike localtime, need not look at the zone again.
+        tzset();  // localtime_r, unlike localtime, may miss a change of TZ.
         const bool known = localtime_r(&now, &local) != nullptr;
         length_ = known ? strftime(text_, sizeof(text_), "%Y-%m-%dT%H:%M:%S ", &local) : 0;
         second_ = now;
@@ -84,11 +97,11 @@ private:
 
 thread_local Timestamp local_time;
 
-/// Writes the formatted text, at most `size` bytes with its final NUL. Returns the number of
-/// characters of the whole text, or a negative number when it cannot be formatted.
+// Writes the formatted text, at most `size` bytes with its final NUL. Returns the number of
+// characters of the whole text, or a negative number if it cannot be formatted.
 __attribute__((format(printf, 3, 0))) int64_t FormatInto(char* buffer, std::size_t size,
                                                          const char* format, va_list args) {
-    const ErrnoKeeper errno_keeper;  // The text may be made twice, and "%m" stands for errno.
+    const ErrnoKeeper errno_keeper;  // "%m" reads errno, also when a text is formatted twice.
     va_list copy;
     va_copy(copy, args);
     const int length = vsnprintf(buffer, size, format, copy);
@@ -96,10 +109,10 @@ __attribute__((format(printf, 3, 0))) int64_t FormatInto(char* buffer, std::size
     return length;
 }
 
-/// The text of one record, made as a whole so that it reaches its stream in one call.
+// Makes the whole text of one record in one buffer, so that one call can write it.
 class RecordText {
 public:
-    /// Makes the text, but for its timestamp.
+    // Formats the text and leaves room for the timestamp.
     void Format(const char* format, va_list args) __attribute__((format(printf, 2, 0))) {
         length_ = FormatInto(Text(), kShortBytes, format, args);
         if (length_ < static_cast<int64_t>(kShortBytes)) {
@@ -114,11 +127,10 @@ public:
         length_ = long_ == nullptr ? -1 : std::min(length_, FormatInto(Text(), size, format, args));
     }
 
-    /// Whether there is a text: it may be impossible to format or too long for the memory.
+    // Returns false if the text could not be formatted or memory was short.
     bool IsMade() const { return length_ >= 0; }
 
-    /// Puts `timestamp` in front and returns the whole. May be called once, for a text that is
-    /// made.
+    // Puts `timestamp` in front and returns the whole text. To be called once, if IsMade().
     std::string_view Stamped(std::string_view timestamp) {
         char* const begin = Text() - timestamp.size();
         timestamp.copy(begin, timestamp.size());
@@ -135,7 +147,7 @@ private:
     int64_t length_ = -1;
 };
 
-/// Holds the logger's lock for one record.
+// Holds the logger's lock for one record.
 class LockHolder {
 public:
     LockHolder() { Logger::Lock(); }
@@ -144,21 +156,22 @@ public:
     LockHolder& operator=(const LockHolder&) = delete;
 };
 
-/// Whether the log file ends with a part of a record, because a write of this process or an earlier
-/// one has failed.
+// Whether the log file ends inside a record, because a write of this process or of an earlier one
+// failed.
 bool ends_inside_record = false;
 
-/// Whether the file's last byte is no line feed. False when it cannot be read.
+// Returns whether the file's last byte is something else than a line feed. False if that byte cannot
+// be read.
 bool EndsInsideLine(int fd) {
     char last = '\n';
     return lseek(fd, -1, SEEK_END) >= 0 && read(fd, &last, 1) == 1 && last != '\n';
 }
 
-/// Returns null when the file cannot be opened for appending.
+// Opens a log file, and creates a missing one. Returns null if it cannot be opened for appending.
 FILE* OpenForAppending(const std::string& path) {
     UniqueFd fd = OpenRegularFile(path, O_RDWR | O_APPEND | O_CREAT, S_IRUSR | S_IWUSR);
     if (!fd.IsOpen() && errno == EACCES) {
-        fd = OpenRegularFile(path, O_WRONLY | O_APPEND);  // It may be written to, but not read.
+        fd = OpenRegularFile(path, O_WRONLY | O_APPEND);  // May be written, but not read.
     }
     FILE* const stream = fd.IsOpen() ? fdopen(fd.Get(), "a") : nullptr;
     if (stream != nullptr) {
@@ -168,7 +181,7 @@ FILE* OpenForAppending(const std::string& path) {
     return stream;
 }
 
-/// Writes the text. Returns false when a write fails; the text's beginning may be written then.
+// Writes the text. Returns false if a write fails; a part of the text may be in the file then.
 bool WriteAll(int fd, std::string_view text) {
     while (!text.empty()) {
         const ssize_t written = write(fd, text.data(), text.size());
@@ -182,20 +195,19 @@ bool WriteAll(int fd, std::string_view text) {
     return true;
 }
 
-/// Writes past the stream's buffer, which stays empty: one call for a record of any size, so that
-/// processes that share the file write whole lines. A record that is cut short by a full disk is
-/// ended before the next one begins.
+// Writes a record to the log file in one call, without the stream's buffer. Several processes that
+// share the file thus write whole lines. If a full disk has cut the last record, first ends its line.
 void WriteToFile(FILE* stream, std::string_view text) {
     const int fd = fileno(stream);
-    // Another process may have ended the record meanwhile.
+    // Another process may have ended the line in the meantime.
     const bool is_cut = ends_inside_record && EndsInsideLine(fd);
     if (!is_cut || WriteAll(fd, "\n")) {
-        static_cast<void>(WriteAll(fd, text));  // What cannot be written is lost.
+        static_cast<void>(WriteAll(fd, text));  // A record that cannot be written is lost.
     }
 }
 
-/// Writes one record, stamped with the time of now, and returns the number of its characters or a
-/// negative number. What cannot be written vanishes, and counts all the same.
+// Writes one record with the current time. Returns the number of its characters, also if they could
+// not be written, or a negative number if the record could not be formatted.
 int32_t Write(RecordText& record, Logger::Type type, FILE* stream) {
     if (stream == nullptr) {
         return 0;
@@ -207,22 +219,23 @@ int32_t Write(RecordText& record, Logger::Type type, FILE* stream) {
     if (type == Logger::TYPE_FILE) {
         WriteToFile(stream, text);
     } else {
-        // In the order of what else the process prints.
+        // By way of the stream, which keeps records and the program's other output in order. A
+        // record that cannot be written is lost.
         static_cast<void>(fwrite(text.data(), 1, text.size(), stream));
         static_cast<void>(fflush(stream));
     }
     return static_cast<int32_t>(text.size());
 }
 
-/// The standard streams are not the logger's to close.
+// Closes a log file. Standard output and standard error stay open for the rest of the program.
 void CloseLogStream(FILE*& stream) {
     if (stream != nullptr && stream != stderr && stream != stdout) {
-        static_cast<void>(fclose(stream));  // Holds nothing that could still fail to be written.
+        static_cast<void>(fclose(stream));  // Loses nothing: the stream's buffer is always empty.
     }
     stream = nullptr;
 }
 
-/// The name of a rotated file, cut where it gets too long.
+// Returns the name of a rotated file, cut to kNameBytes - 1 bytes.
 std::string IndexedName(const std::string& path, int64_t index) {
     char name[kNameBytes];
     static_cast<void>(snprintf(name, sizeof(name), "%s_%" PRId64, path.c_str(), index));
@@ -231,18 +244,22 @@ std::string IndexedName(const std::string& path, int64_t index) {
 
 pid_t process_id = 0;
 
-void FetchProcessId() {
+void EndForkInChild() {
     process_id = getpid();
+    Logger::Unlock();
 }
 
-/// Fetches the process id now and in every child. Returns whether it will.
-bool KeepProcessId() {
-    FetchProcessId();
-    return pthread_atfork(nullptr, nullptr, FetchProcessId) == 0;
+bool RegisterForkHandlers() {
+    process_id = getpid();
+    return pthread_atfork(Logger::Lock, Logger::Unlock, EndForkInChild) == 0;
 }
 
-std::string ErrorText(int error) {
-    return std::generic_category().message(error);
+// Makes every fork wait until no thread holds the lock, and makes the child fetch its process id.
+// Otherwise a child whose parent was writing a record in another thread would wait forever for the
+// lock. Registers the handlers at the first call. Returns false if memory was too short for that.
+bool HandleForks() {
+    static const bool is_registered = RegisterForkHandlers();
+    return is_registered;
 }
 
 }  // namespace
@@ -261,15 +278,16 @@ int32_t Logger::Initialize(Type type, const std::string& file_path,
 
 int32_t Logger::Initialize(const InitConfig& init) {
     Destroy();
+    State& state = GetState();
     ++configuration_number;
-    config = init;
-    log_path = init.file_path;
-    if (config.type == TYPE_FILE) {
+    state.config = init;
+    state.log_path = init.file_path;
+    if (state.config.type == TYPE_FILE) {
         InitializeLock();
     } else {
-        config.safety_scope = SCOPE_NONE;
+        state.config.safety_scope = SCOPE_NONE;
     }
-    const bool lock_missing = config.safety_scope > SCOPE_NONE && log_lock == nullptr;
+    const bool lock_missing = state.config.safety_scope > SCOPE_NONE && state.log_lock == nullptr;
     if (lock_missing || InitializeSharedData() == nullptr) {
         Destroy();
         return -1;
@@ -279,55 +297,60 @@ int32_t Logger::Initialize(const InitConfig& init) {
 }
 
 void Logger::InitializeThresholds() {
-    log_level["default_component"] = kDefaultThreshold;
+    State& state = GetState();
+    state.log_level["default_component"] = kDefaultThreshold;
     Config file;
-    // The file is optional: one that is not named, missing or malformed has no entries.
-    static_cast<void>(file.read(config.debug_config_path));
+    // Ignored because the file is optional. If the reading fails, the file has no entries.
+    static_cast<void>(file.read(state.config.debug_config_path));
     for (const auto& entry : file.entries) {
-        log_level[entry.first] = file.get_int(entry.first);
+        state.log_level[entry.first] = file.get_int(entry.first);
     }
 }
 
 int32_t Logger::InitializeOutput() {
-    if (config.type == TYPE_FILE) {
-        FILE* const stream = log_path.empty() ? nullptr : OpenForAppending(log_path);
+    State& state = GetState();
+    if (state.config.type == TYPE_FILE) {
+        FILE* const stream = state.log_path.empty() ? nullptr : OpenForAppending(state.log_path);
         if (stream == nullptr) {
             return -1;
         }
-        log_fp = stream;
-        *log_size = GetFileSize(log_path);
+        state.log_fp = stream;
+        *state.log_size = GetFileSize(state.log_path);
     } else {
-        log_fp = config.type == TYPE_STDERR   ? stderr
-                 : config.type == TYPE_STDOUT ? stdout
-                                              : nullptr;
-        log_path.clear();
-        *log_size = -1;
+        state.log_fp = state.config.type == TYPE_STDERR   ? stderr
+                       : state.config.type == TYPE_STDOUT ? stdout
+                                                          : nullptr;
+        state.log_path.clear();
+        *state.log_size = -1;
     }
-    *log_rotated_count_shared = 0;
-    log_rotated_count_private = 0;
-    log_initialized = true;
+    *state.log_rotated_count_shared = 0;
+    state.log_rotated_count_private = 0;
+    state.log_initialized = true;
     return 0;
 }
 
 void Logger::Destroy() {
-    log_initialized = false;
-    if (config.type == TYPE_FILE) {
-        CloseLogStream(log_fp);
-        config.type = TYPE_STDERR;
-        log_fp = stderr;
-        log_path.clear();
+    State& state = GetState();
+    state.log_initialized = false;
+    if (state.config.type == TYPE_FILE) {
+        CloseLogStream(state.log_fp);
+        state.config.type = TYPE_STDERR;
+        state.log_fp = stderr;
+        state.log_path.clear();
     }
     DestroySharedData();
     DestroyLock();
 }
 
 bool Logger::IsNeedToLog(Level level, const std::string& component) {
-    return log_initialized && level <= GetCompLevel(component);
+    const State& state = GetState();
+    return state.log_initialized && level <= GetCompLevel(component);
 }
 
 int32_t Logger::GetCompLevel(const std::string& component) {
-    const auto entry = log_level.find(component);
-    return entry == log_level.end() ? kDefaultThreshold : entry->second;
+    const State& state = GetState();
+    const auto entry = state.log_level.find(component);
+    return entry == state.log_level.end() ? kDefaultThreshold : entry->second;
 }
 
 void Logger::LogMsg(Level level, const std::string& component, const char* format, ...) {
@@ -342,18 +365,19 @@ void Logger::LogMsg2(Level level, const std::string& component, const char* form
         return;
     }
     const ErrnoKeeper errno_keeper;
-    if (config.type == TYPE_SYSLOG) {
+    const State& state = GetState();
+    if (state.config.type == TYPE_SYSLOG) {
         vsyslog(LOG_ERR, format, args);
         return;
     }
-    // Made before the lock is taken, so that threads wait for each other's writing alone.
+    // Formatted before the lock is taken, so that other threads wait for the writing only.
     RecordText record;
     record.Format(format, args);
     const LockHolder lock;
-    if (log_fp != nullptr) {
+    if (state.log_fp != nullptr) {
         ReloadLogFile();
-        // A failed rotation is not the caller's: it shows in the records that are missing.
-        static_cast<void>(RotateIfFileBig(Write(record, config.type, log_fp)));
+        // Ignored because the caller of a record never learns of a failure.
+        static_cast<void>(RotateIfFileBig(Write(record, state.config.type, state.log_fp)));
     }
 }
 
@@ -362,12 +386,16 @@ void Logger::LogMsg3(Level level, const std::string& component, std::stringstrea
     const ErrnoKeeper errno_keeper;
     const int error = (flags & FLAG_ERRNO) != 0 ? errno : 0;
     if (error != 0) {
-        message.seekp(0, std::ios_base::end);
-        message << ", err=" << error << ":";
+        // Not by "<<": it does nothing on a stream that was read to its end, and may write the
+        // number in hexadecimal.
+        const std::string text = ", err=" + std::to_string(error) + ":";
+        message.rdbuf()->pubseekoff(0, std::ios_base::end, std::ios_base::out);
+        message.rdbuf()->sputn(text.data(), static_cast<std::streamsize>(text.size()));
     }
-    // The error's text is put in here because not every system's printf has "%m".
+    // Not by "%m", which not every system's printf has.
     LogMsg(level, component, "%s%s%s", message.str().c_str(),
-           error != 0 ? ErrorText(error).c_str() : "", (flags & FLAG_LINE_FEED) != 0 ? "\n" : "");
+           error != 0 ? PlatformErrorText(error).c_str() : "",
+           (flags & FLAG_LINE_FEED) != 0 ? "\n" : "");
 }
 
 void LogMSG_c(int level, const char* component, const char* format, va_list args) {
@@ -375,51 +403,56 @@ void LogMSG_c(int level, const char* component, const char* format, va_list args
 }
 
 int32_t Logger::Rotate() {
-    const int64_t count = config.rotate_count;
+    State& state = GetState();
+    const int64_t count = state.config.rotate_count;
     for (int64_t i = count - 2; i >= 0; --i) {
-        // Most of the names need not exist, and an older file is not worth losing a record for.
-        static_cast<void>(
-            rename(IndexedName(log_path, i).c_str(), IndexedName(log_path, i + 1).c_str()));
+        // Ignored because most files do not exist yet, and the current record matters more than
+        // the order of old files.
+        static_cast<void>(rename(IndexedName(state.log_path, i).c_str(),
+                                 IndexedName(state.log_path, i + 1).c_str()));
     }
-    static_cast<void>(remove(IndexedName(log_path, count - 1).c_str()));
-    CloseLogStream(log_fp);
-    if (rename(log_path.c_str(), IndexedName(log_path, 0).c_str()) != 0) {
+    // Ignored because that file need not exist.
+    static_cast<void>(remove(IndexedName(state.log_path, count - 1).c_str()));
+    CloseLogStream(state.log_fp);
+    if (rename(state.log_path.c_str(), IndexedName(state.log_path, 0).c_str()) != 0) {
         return -1;
     }
-    log_fp = OpenForAppending(log_path);
-    if (log_fp == nullptr) {
+    state.log_fp = OpenForAppending(state.log_path);
+    if (state.log_fp == nullptr) {
         return -1;
     }
-    ++*log_rotated_count_shared;
-    ++log_rotated_count_private;
+    ++*state.log_rotated_count_shared;
+    ++state.log_rotated_count_private;
     return 0;
 }
 
 int32_t Logger::RotateIfFileBig(int32_t written) {
-    if (written < 0 || config.type != TYPE_FILE) {
+    State& state = GetState();
+    if (written < 0 || state.config.type != TYPE_FILE) {
         return 0;
     }
-    const int64_t size = static_cast<int64_t>(*log_size) + written;
+    const int64_t size = static_cast<int64_t>(*state.log_size) + written;
     if (size <= kMaxFileBytes) {
-        *log_size = static_cast<int32_t>(size);
+        *state.log_size = static_cast<int32_t>(size);
         return 0;
     }
     const int32_t result = Rotate();
-    *log_size = 0;
+    *state.log_size = 0;
     return result;
 }
 
 void Logger::ReloadLogFile() {
-    if (config.type != TYPE_FILE || config.safety_scope < SCOPE_SHARED ||
-        log_rotated_count_private == *log_rotated_count_shared) {
+    State& state = GetState();
+    if (state.config.type != TYPE_FILE || state.config.safety_scope < SCOPE_SHARED ||
+        state.log_rotated_count_private == *state.log_rotated_count_shared) {
         return;
     }
     const ErrnoKeeper errno_keeper;
-    CloseLogStream(log_fp);
-    log_fp = OpenForAppending(log_path);
-    if (log_fp != nullptr) {
-        *log_size = GetFileSize(log_path);
-        log_rotated_count_private = *log_rotated_count_shared;
+    CloseLogStream(state.log_fp);
+    state.log_fp = OpenForAppending(state.log_path);
+    if (state.log_fp != nullptr) {
+        *state.log_size = GetFileSize(state.log_path);
+        state.log_rotated_count_private = *state.log_rotated_count_shared;
     }
 }
 
@@ -427,7 +460,8 @@ int32_t Logger::GetFileSize(const std::string& path) {
     struct stat status = {};
     if (stat(path.c_str(), &status) != 0) {
         const int error = errno;
-        PrintToFilePointer("stat(%s): %s (%d)\n", path.c_str(), ErrorText(error).c_str(), error);
+        PrintToFilePointer("stat(%s): %s (%d)\n", path.c_str(), PlatformErrorText(error).c_str(),
+                           error);
         return 0;
     }
     constexpr int64_t kLargest = std::numeric_limits<int32_t>::max();
@@ -444,44 +478,52 @@ int32_t Logger::PrintToFilePointer(const char* format, ...) {
 
 int32_t Logger::PrintToFilePointerV(const char* format, va_list args) {
     const ErrnoKeeper errno_keeper;
+    const State& state = GetState();
     RecordText record;
     record.Format(format, args);
-    return Write(record, config.type, log_fp);
+    return Write(record, state.config.type, state.log_fp);
 }
 
 void Logger::FlushFileStream(long /*unused*/) {
-    if (log_fp != nullptr) {
-        static_cast<void>(fflush(log_fp));
+    const State& state = GetState();
+    if (state.log_fp != nullptr) {
+        static_cast<void>(fflush(state.log_fp));  // A record that cannot be written is lost.
     }
 }
 
 void Logger::InitializeLock() {
-    if (config.safety_scope <= SCOPE_NONE || log_lock != nullptr) {
+    State& state = GetState();
+    if (state.config.safety_scope <= SCOPE_NONE || state.log_lock != nullptr) {
         return;
     }
-    log_lock = new (std::nothrow) pthread_mutex_t;
-    if (log_lock != nullptr) {
-        pthread_mutex_init(log_lock, nullptr);
+    state.log_lock = new (std::nothrow) pthread_mutex_t;
+    if (state.log_lock != nullptr && pthread_mutex_init(state.log_lock, nullptr) != 0) {
+        delete state.log_lock;
+        state.log_lock = nullptr;
     }
+    static_cast<void>(HandleForks());  // Without it, only a child of fork may be unable to log.
 }
 
 void Logger::DestroyLock() {
-    if (log_lock != nullptr) {
-        pthread_mutex_destroy(log_lock);
-        delete log_lock;
-        log_lock = nullptr;
+    State& state = GetState();
+    if (state.log_lock != nullptr) {
+        static_cast<void>(pthread_mutex_destroy(state.log_lock));  // Fails only while locked.
+        delete state.log_lock;
+        state.log_lock = nullptr;
     }
 }
 
 void Logger::Lock() {
-    if (log_lock != nullptr) {
-        pthread_mutex_lock(log_lock);
+    const State& state = GetState();
+    if (state.log_lock != nullptr) {
+        static_cast<void>(pthread_mutex_lock(state.log_lock));  // Cannot fail for a default mutex.
     }
 }
 
 void Logger::Unlock() {
-    if (log_lock != nullptr) {
-        pthread_mutex_unlock(log_lock);
+    const State& state = GetState();
+    if (state.log_lock != nullptr) {
+        static_cast<void>(pthread_mutex_unlock(state.log_lock));  // Nor can this.
     }
 }
 
@@ -490,29 +532,29 @@ void Logger::InitializeFileLock() {}
 void Logger::DestroyFileLock() {}
 
 uint64_t* Logger::InitializeSharedData() {
-    if (log_size == nullptr || log_rotated_count_shared == nullptr) {
+    State& state = GetState();
+    if (state.log_size == nullptr || state.log_rotated_count_shared == nullptr) {
         DestroySharedData();
-        log_size = new (std::nothrow) int32_t(0);
-        log_rotated_count_shared = new (std::nothrow) uint64_t(0);
+        state.log_size = new (std::nothrow) int32_t(0);
+        state.log_rotated_count_shared = new (std::nothrow) uint64_t(0);
     }
-    return log_size != nullptr ? log_rotated_count_shared : nullptr;
+    return state.log_size != nullptr ? state.log_rotated_count_shared : nullptr;
 }
 
 void Logger::DestroySharedData() {
-    delete log_size;
-    log_size = nullptr;
-    delete log_rotated_count_shared;
-    log_rotated_count_shared = nullptr;
+    State& state = GetState();
+    delete state.log_size;
+    state.log_size = nullptr;
+    delete state.log_rotated_count_shared;
+    state.log_rotated_count_shared = nullptr;
 }
 
 int Logger::ProcessId() {
-    // Asking the system for every record would cost a quarter of writing it.
-    static const bool kept_up_to_date = KeepProcessId();
-    return kept_up_to_date ? process_id : getpid();
+    return HandleForks() ? process_id : getpid();  // getpid is a system call in every record.
 }
 
 int Logger::ThreadId() {
-    const pthread_t self = pthread_self();  // A number on some systems, a pointer on others.
+    const pthread_t self = pthread_self();  // A number on Linux, a pointer on macOS.
     uint64_t handle = 0;
     static_assert(sizeof(self) <= sizeof(handle), "the whole handle counts");
     memcpy(&handle, &self, sizeof(self));

@@ -1,23 +1,20 @@
 #pragma once
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <cerrno>
 #include <string>
 
-#include "lib/platform/retry.h"
-#include "lib/platform/unique_fd.h"
+#include "lib/platform/open_file.h"
 
-/// Opens a regular file, close-on-exec, and never waits for another process.
+/// Opens a regular file like PlatformOpenFile, and never waits for another process.
 ///
-/// Symbolic links are followed unless `flags` holds O_NOFOLLOW. A missing file is created with `mode`
-/// when `flags` holds O_CREAT. On failure the result is not open and errno tells why: EINVAL when the
-/// path leads to anything but a regular file.
+/// Follows symbolic links unless `flags` holds O_NOFOLLOW. Creates a missing file with `mode` when
+/// `flags` holds O_CREAT. On failure the result is not open, and errno tells why: EINVAL when the path
+/// leads to anything but a regular file.
 inline UniqueFd OpenRegularFile(const std::string& path, int flags, mode_t mode = 0) {
     // Without O_NONBLOCK, opening a FIFO waits until another process opens its other end.
-    UniqueFd file(RetryInterrupted(
-        [&] { return ::open(path.c_str(), flags | O_CLOEXEC | O_NONBLOCK, mode); }));
+    UniqueFd file = PlatformOpenFile(path, flags | O_NONBLOCK, mode);
     struct stat status = {};
     if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0) {
         return UniqueFd();

@@ -2,8 +2,9 @@
 
 #include <cerrno>
 
-/// Makes a system call that gives -1 on failure, again for as long as a signal interrupts it. errno
-/// stays as the last call left it.
+/// Makes a system call that returns -1 on failure, and repeats it while a signal interrupts it.
+///
+/// Returns the last call's result, with errno as that call left it.
 template <class Call>
 auto RetryInterrupted(Call call) {
     auto result = call();

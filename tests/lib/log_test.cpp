@@ -29,7 +29,7 @@ const std::string kLogComponent = "log_test";
 
 /// Writes a record without a prefix.
 void Log(const std::string& text) {
-    Logger::LogMsg(Logger::ERROR, kLogComponent, "%s", text.c_str());
+    Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "%s", text.c_str());
 }
 
 /// A file's records without their timestamps.
@@ -71,7 +71,7 @@ TEST_F(LoggerTest, ThresholdsComeFromTheirFile) {
         WriteFile(path, "");
         LogTo(path);
         std::string expected;
-        for (int level = Logger::ERROR; level <= Logger::DEBUG; ++level) {
+        for (int level = Logger::LEVEL_ERROR; level <= Logger::LEVEL_DEBUG; ++level) {
             Logger::LogMsg(Logger::Level(level), component, "%d", level);
             expected += level <= threshold ? std::to_string(level) : "";
         }
@@ -155,9 +155,9 @@ TEST_F(LoggerTest, FailedRotationDropsRecordsUntilInitialize) {
 TEST_F(LoggerTest, FailedInitializeSilencesTheLogger) {
     for (const std::string& bad : {std::string(), folder.path(), folder / "missing/log"}) {
         EXPECT_EQ(LogTo(bad), -1) << bad;
-        EXPECT_FALSE(Logger::IsNeedToLog(Logger::ERROR, kLogComponent));
+        EXPECT_FALSE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, kLogComponent));
         EXPECT_EQ(LogTo(path), 0);
-        EXPECT_TRUE(Logger::IsNeedToLog(Logger::ERROR, kLogComponent));
+        EXPECT_TRUE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, kLogComponent));
     }
 }
 
@@ -170,7 +170,7 @@ TEST_F(LogSoak, LosesTearsAndRepeatsNothing) {
     for (std::size_t thread = 0; thread < next.size(); ++thread) {
         threads.emplace_back([thread, count] {
             for (int number = 0; number < count; ++number) {
-                Logger::LogMsg(Logger::ERROR, "soak", "%zu %d\n", thread, number);
+                Logger::LogMsg(Logger::LEVEL_ERROR, "soak", "%zu %d\n", thread, number);
             }
         });
     }

@@ -1,6 +1,5 @@
 #include "lib/platform/process.h"
 
-#include <fcntl.h>
 #include <poll.h>
 #include <sys/syscall.h>
 #include <time.h>
@@ -10,6 +9,7 @@
 #include <cstdlib>
 
 #include "lib/platform/linux/proc_link.h"
+#include "lib/platform/open_file.h"
 #include "lib/platform/retry.h"
 
 namespace {
@@ -26,7 +26,7 @@ std::string ProcPath(pid_t pid, const char* name) {
 
 // The beginning of a file of /proc; empty when it cannot be read.
 std::string ReadProcFile(const std::string& path) {
-    const UniqueFd file(RetryInterrupted([&] { return open(path.c_str(), O_RDONLY | O_CLOEXEC); }));
+    const UniqueFd file = PlatformOpenFile(path, O_RDONLY);
     std::array<char, 1024> text;  // The fields up to the start time are shorter.
     const ssize_t length =
         RetryInterrupted([&] { return read(file.Get(), text.data(), text.size()); });
