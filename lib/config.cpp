@@ -16,7 +16,7 @@ constexpr std::size_t kLineBytes = 8192;
 
 enum ParseResult { kEntry = 0, kNoEntry = 1, kMalformed = 2 };
 
-// The character classes of the format are those of ASCII, whatever the locale.
+// The functions of <cctype> are not used because they depend on the locale. This format does not.
 
 bool IsSpace(char c) {
     return c == ' ' || (c >= '\t' && c <= '\r');
@@ -54,7 +54,7 @@ char* SkipKey(char* at) {
     return at;
 }
 
-/// The end of an unquoted value: a control byte, the final NUL among them, or a space.
+// Returns the end of an unquoted value: the first space or control byte. The final NUL is one too.
 char* FindValueEnd(char* at) {
     while (*at != ' ' && !IsControl(*at)) {
         ++at;
@@ -62,7 +62,7 @@ char* FindValueEnd(char* at) {
     return at;
 }
 
-/// The next `quote`, or null when the text ends or a control byte comes before it.
+// Returns the next `quote`, or null if a control byte or the end of the text comes first.
 char* FindClosingQuote(char* at, char quote) {
     while (*at != quote) {
         if (IsControl(*at)) {
@@ -74,11 +74,11 @@ char* FindClosingQuote(char* at, char quote) {
 }
 
 struct CloseFile {
-    void operator()(FILE* file) const { static_cast<void>(fclose(file)); }  // Only read from.
+    void operator()(FILE* file) const { static_cast<void>(fclose(file)); }  // Nothing was written.
 };
 using File = std::unique_ptr<FILE, CloseFile>;
 
-/// Null when the file cannot be opened.
+// Returns null if the file cannot be opened.
 File OpenForReading(const std::string& path) {
     UniqueFd fd = OpenRegularFile(path, O_RDONLY);
     File file(fd.IsOpen() ? fdopen(fd.Get(), "r") : nullptr);
@@ -88,7 +88,7 @@ File OpenForReading(const std::string& path) {
     return file;
 }
 
-/// getc that a signal does not end.
+// Reads one byte like getc, and tries again when a signal interrupts it.
 int NextByte(FILE* file) {
     int byte = getc(file);
     while (byte == EOF && ferror(file) != 0 && errno == EINTR) {
@@ -98,7 +98,7 @@ int NextByte(FILE* file) {
     return byte;
 }
 
-/// Fills `line` like fgets. Returns false when there is nothing more or the file cannot be read.
+// Fills `line` like fgets. Returns false at the end of the file or if the file cannot be read.
 bool ReadLine(FILE* file, char (&line)[kLineBytes]) {
     std::size_t length = 0;
     int byte = 0;
@@ -116,7 +116,7 @@ int32_t Config::read(const std::string& path) {
     if (file == nullptr) {
         return -1;
     }
-    // Kept apart until the end of the file, because a failure to read must leave `entries` alone.
+    // Collected apart from `entries`, which must not change if the file cannot be read to its end.
     std::map<std::string, std::string> found;
     std::string key;
     std::string value;
@@ -134,7 +134,7 @@ int32_t Config::read(const std::string& path) {
     if (ferror(file.get()) != 0) {
         return -1;
     }
-    found.merge(entries);  // Of two equal keys the one that is there already stays.
+    found.merge(entries);  // Takes only keys that `found` does not have.
     entries = std::move(found);
     return 0;
 }

@@ -61,13 +61,13 @@ private:
     const int saved_ = errno;
 };
 
-// Grows with every `Initialize`. Each thread then makes a new timestamp, so that a change of the time
-// zone before `Initialize` takes effect at once.
+// Grows with every `Initialize`. Each thread then makes a new timestamp, so that a change of the
+// time zone before `Initialize` takes effect at once.
 unsigned configuration_number = 0;
 
-// Makes the timestamps of one thread, and keeps the last one for the rest of its second. Each thread
-// has its own, because records are not always written under the lock. Without a destructor, it can
-// be used until the thread ends.
+// Makes the timestamps of one thread, and keeps the last one for the rest of its second. Each
+// thread has its own, because records are not always written under the lock. Without a destructor,
+// it can be used until the thread ends.
 class Timestamp {
 public:
     // The result is valid until the thread's next call.
@@ -160,8 +160,8 @@ public:
 // failed.
 bool ends_inside_record = false;
 
-// Returns whether the file's last byte is something else than a line feed. False if that byte cannot
-// be read.
+// Returns whether the file's last byte is something else than a line feed. False if that byte
+// cannot be read.
 bool EndsInsideLine(int fd) {
     char last = '\n';
     return lseek(fd, -1, SEEK_END) >= 0 && read(fd, &last, 1) == 1 && last != '\n';
@@ -196,7 +196,7 @@ bool WriteAll(int fd, std::string_view text) {
 }
 
 // Writes a record to the log file in one call, without the stream's buffer. Several processes that
-// share the file thus write whole lines. If a full disk has cut the last record, first ends its line.
+// share the file thus write whole lines. Ends a line first that a full disk has cut.
 void WriteToFile(FILE* stream, std::string_view text) {
     const int fd = fileno(stream);
     // Another process may have ended the line in the meantime.

@@ -20,7 +20,7 @@
 /// forks. With a lock, a child of fork may log whatever the other threads were doing at the fork.
 /// Without a lock, a child of fork may log only if no other thread was logging at the fork.
 ///
-/// A caller that writes a record never learns of a failure: a record that cannot be written is lost.
+/// The caller of a record never learns of a failure. A record that cannot be written is lost.
 class Logger {
 public:
     /// Where records go.
@@ -63,13 +63,13 @@ public:
 
     /// Ends the former configuration and takes the new one.
     ///
-    /// Returns 0 on success. Returns -1 when the lock or the counters cannot be made, when TYPE_FILE
-    /// has an empty path, or when its file cannot be opened for appending. After a failure nothing is
-    /// logged until the next `Initialize`.
+    /// Returns 0 on success. Returns -1 when the lock or the counters cannot be made, when
+    /// TYPE_FILE has an empty path, or when its file cannot be opened for appending. After a
+    /// failure nothing is logged until the next `Initialize`.
     ///
-    /// A missing or malformed file of thresholds is not a failure: the thresholds keep their values.
-    /// Only the owner can read and write a log file that is created here. A path that leads to
-    /// anything but a regular file cannot be opened.
+    /// A missing or malformed file of thresholds is not a failure: the thresholds keep their
+    /// values. Only the owner can read and write a log file that is created here. A path that leads
+    /// to anything but a regular file cannot be opened.
     static int32_t Initialize(const InitConfig& init);
     static int32_t Initialize(Type type, const std::string& file_path,
                               const std::string& debug_config_path, int rotate_count,
@@ -79,8 +79,8 @@ public:
     /// `Initialize`. The thresholds stay.
     static void Destroy();
 
-    /// Returns whether a record would be written. Callers ask this first, so that an unwanted record
-    /// costs one map lookup and no formatting.
+    /// Returns whether a record would be written. Callers ask this first, so that an unwanted
+    /// record costs one map lookup and no formatting.
     static bool IsNeedToLog(Level level, const std::string& component);
 
     /// Returns the component's threshold, or 4 (WARNING) for a component without one.
@@ -95,17 +95,17 @@ public:
 
     /// Writes the text of `message` as one record.
     ///
-    /// With FLAG_ERRNO, and when errno is not 0, first appends ", err=NUMBER:" to `message`, whatever
-    /// state that stream is in. The text of the error follows in the record alone. Leaves errno
-    /// unchanged.
+    /// With FLAG_ERRNO, and when errno is not 0, first appends ", err=NUMBER:" to `message`,
+    /// whatever state that stream is in. The text of the error follows in the record alone. Leaves
+    /// errno unchanged.
     static void LogMsg3(Level level, const std::string& component, std::stringstream& message,
                         ConfigFlag flags);
 
-    /// Renames the current file to index 0 and every older file to the next index, removes the oldest
-    /// file, and opens a new current file. The caller holds the lock.
+    /// Renames the current file to index 0 and every older file to the next index, removes the
+    /// oldest file, and opens a new current file. The caller holds the lock.
     ///
-    /// Returns 0 on success. Returns -1 when the current file cannot be renamed or the new one cannot
-    /// be opened. Then no stream is open, and records are lost until the next `Initialize`.
+    /// Returns 0 on success. Returns -1 when the current file cannot be renamed or the new one
+    /// cannot be opened. Then no stream is open, and records are lost until the next `Initialize`.
     static int32_t Rotate();
 
     /// Adds `written` characters to the size of the file, and rotates if it is now above 5 MiB.
@@ -115,8 +115,8 @@ public:
     /// Reopens the log file if another writer has rotated it (SCOPE_SHARED and TYPE_FILE only).
     static void ReloadLogFile();
 
-    /// Returns the size of a file in bytes. If that fails, writes the reason as a record and returns
-    /// 0.
+    /// Returns the size of a file in bytes. If that fails, writes the reason as a record and
+    /// returns 0.
     static int32_t GetFileSize(const std::string& path);
 
     /// Write one timestamped record to the open stream and flush it, without asking for the level,
@@ -130,9 +130,9 @@ public:
     /// Flushes the open stream. The argument is not used.
     static void FlushFileStream(long unused);
 
-    /// Make, free, take and release the lock. It exists for TYPE_FILE with a scope above SCOPE_NONE,
-    /// and without it `Lock` and `Unlock` do nothing. It is not recursive: between `Lock` and
-    /// `Unlock` a thread must neither write a record nor fork.
+    /// Make, free, take and release the lock. It exists for TYPE_FILE with a scope above
+    /// SCOPE_NONE, and without it `Lock` and `Unlock` do nothing. It is not recursive: between
+    /// `Lock` and `Unlock` a thread must neither write a record nor fork.
     static void InitializeLock();
     static void DestroyLock();
     static void Lock();
@@ -173,16 +173,17 @@ void LogMSG_c(int level, const char* component, const char* format, va_list args
 
 /// Writes one record, such as LOG_MSG(ERROR, "failed to open '%s'", path), if its level is wanted.
 ///
-/// Adds the prefix and the line feed. The level is a word without its LEVEL_ prefix, the message is a
-/// string literal. The arguments are evaluated only if the record is wanted.
+/// Adds the prefix and the line feed. The level is a word without its LEVEL_ prefix, the message is
+/// a string literal. The arguments are evaluated only if the record is wanted.
 #define LOG_MSG(level, ...) LOG_RECORD(__LINE__, Logger::LEVEL_##level, #level, __VA_ARGS__, "")
 
 /// Writes the same with a line number of the caller's choice, for records that others match on.
 #define LOG_MSG_AT(line, level, ...) \
     LOG_RECORD(line, Logger::LEVEL_##level, #level, __VA_ARGS__, "")
 
-// The two macros above use `level` only beside "#", so that a macro named DEBUG does not replace it.
-// Their final empty text goes to the last "%s": C++17 allows no empty list of variable arguments.
+// The two macros above use `level` only beside "#", so that a macro named DEBUG does not replace
+// it. Their final empty text goes to the last "%s": C++17 allows no empty list of variable
+// arguments.
 #define LOG_RECORD(line, level, word, message, ...)                                     \
     do {                                                                                \
         if (Logger::IsNeedToLog(level, kLogComponent)) {                                \

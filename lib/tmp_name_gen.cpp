@@ -13,7 +13,7 @@ TmpNameGen* TmpNameGen::getInstance() {
     return &tmp_name;
 }
 
-// NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp): seeded at once.
+// NOLINTNEXTLINE(cert-msc32-c,cert-msc51-cpp): the constructor's body seeds the engine.
 TmpNameGen::TmpNameGen() {
     reseed();
 }
@@ -30,7 +30,7 @@ std::string TmpNameGen::getTmpName() {
                                    'q', 'r', 's', 't', 'u', 'v', 'w', 'x', 'y', 'z', 'A', 'B', 'C',
                                    'D', 'E', 'F', 'G', 'H', 'I', 'J', 'K', 'L', 'M', 'N', 'O', 'P',
                                    'Q', 'R', 'S', 'T', 'U', 'V', 'W', 'X', 'Y', 'Z', '-', '_'};
-    static_assert(sizeof(map) == 64, "every draw picks a character");
+    static_assert(sizeof(map) == 64, "64 values of equal probability");
     static std::uniform_int_distribution<std::size_t> dis(0, sizeof(map) - 1);
 
     std::string name;

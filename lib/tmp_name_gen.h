@@ -5,31 +5,31 @@
 #include <random>
 #include <string>
 
-/// Draws names of eight characters. The names are hard to hit by chance, not hard to guess, and
-/// nobody checks whether one is in use.
+/// Makes random names of eight characters.
 ///
-/// The process shares one instance, which lives until the process exits; any thread may use it.
+/// Two names are rarely equal, but an attacker can predict them. Whether a file of that name exists
+/// is not checked. Any thread may call any function.
 class TmpNameGen {
 public:
-    /// The shared instance, made and seeded by the first call. Throws what `reseed` throws; the
-    /// next call tries again then.
+    /// Returns the instance that the whole process shares, until the process exits. The first call
+    /// makes it. Throws if `reseed` throws; then the next call tries again.
     static TmpNameGen* getInstance();
 
-    /// Throws what `reseed` throws.
+    /// Calls `reseed`, and throws if that throws.
     TmpNameGen();
     ~TmpNameGen() = default;
 
     TmpNameGen(const TmpNameGen&) = delete;
     TmpNameGen& operator=(const TmpNameGen&) = delete;
 
-    /// Starts a new sequence of names from /dev/urandom. Throws the standard library's exception,
-    /// and leaves the sequence as it is, when that cannot be opened or read.
+    /// Starts a new sequence of names with a number from /dev/urandom. If that file cannot be
+    /// opened or read, throws the standard library's exception and keeps the old sequence.
     void reseed();
 
-    /// Eight characters, each from the ASCII letters, the digits, "-" and "_".
+    /// Returns a name of eight characters: ASCII letters, digits, "-" and "_".
     std::string getTmpName();
 
-    /// `folder`, a "/" and a new name. Nothing is created.
+    /// Returns `folder`, a "/" and a new name. Creates nothing.
     std::string getTmpPath(const std::string& folder);
 
 private:

@@ -7,7 +7,7 @@
 #include "lib/platform/retry.h"
 #include "lib/platform/unique_fd.h"
 
-/// Opens a file with the flags and the mode of open(2), and tries again when a signal interrupts it.
+/// Opens a file like open(2), and tries again when a signal interrupts that.
 ///
 /// A program that this process starts does not inherit the descriptor. On failure the result is not
 /// open, and errno tells why.

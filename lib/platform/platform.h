@@ -1,54 +1,56 @@
-// What differs between operating systems, stated once. The build picks the folder that implements
-// it; no other code asks which system it runs on.
+// The functions that differ between operating systems. CMake chooses the folder that implements
+// them. No other code asks which system it runs on.
 //
-// Paths are UTF-8. Nothing here throws, keeps state or logs; every function may be called from any
-// thread unless it says otherwise.
+// Paths are UTF-8. No function throws, keeps state or logs. Any thread may call a function unless
+// its comment says otherwise.
 #pragma once
 
 #include <cstddef>
 #include <string>
 
-/// The size of a buffer for a stored path, its terminating zero included.
+/// The size of a buffer for a stored path, in bytes, its final NUL included.
 constexpr std::size_t kStoredPathCapacity = 4096;
 
-/// Finds the path under which the file system knows an existing object: absolute, the links among its
-/// parent folders resolved, every component spelled as it is stored.
+/// Finds the path under which the file system stores an existing object. It is absolute, symbolic links
+/// among its parent folders are resolved, and every component is spelled as it is stored.
 ///
-/// A final symbolic link is followed only when `follow_final_link` is set or the path ends in "/". On a
-/// case-insensitive volume of Linux the letter case stays as asked for. `stored` may be `path` itself.
+/// Follows a final symbolic link only if `follow_final_link` is set or the path ends in "/". On a
+/// case-insensitive volume of Linux, the letter case is that of `path`. `stored` may be `path`
+/// itself.
 ///
-/// Returns 0 and the path in `stored`, or the system's own error number (never 0) with `stored` as it
-/// was: no access, a stored path that does not fit kStoredPathCapacity, or no such object. A final
-/// component that is missing and is not to be followed is an error on macOS alone.
+/// Returns 0 and sets `stored` on success. Otherwise leaves `stored` unchanged and returns the system's
+/// error number, which is never 0: the object is not accessible, a folder of its path is missing, or its
+/// stored path does not fit kStoredPathCapacity. Without `follow_final_link`, only macOS reports
+/// that the object itself is missing.
 int PlatformStoredPath(const std::string& path, bool follow_final_link, std::string& stored);
 
-/// Names the type of the file system that holds the path: "nfs", "smbfs" or "afpfs" for a network
-/// volume, "msdos" for a FAT volume, any other text for any other.
+/// Finds the type of the file system that holds a path: "nfs", "smbfs" or "afpfs" for a network
+/// volume, "msdos" for a FAT volume, and any other text for all others.
 ///
-/// Follows symbolic links. Returns 0 and the name in `type`, or -1 with errno set and `type` as it
-/// was.
+/// Follows symbolic links. Returns 0 and sets `type` on success. Otherwise returns -1 with errno
+/// set, and leaves `type` unchanged.
 int PlatformFileSystemType(const std::string& path, std::string& type);
 
-/// Flushes what was written to an open file to stable storage, again after an interruption.
+/// Flushes the content of an open file to stable storage, and tries again after an interruption.
 ///
-/// On macOS this also empties the cache of the drive, where the file system supports that. Returns 0, or
-/// -1 with errno set.
+/// On macOS this also empties the cache of the drive, if the file system supports that. Returns 0,
+/// or -1 with errno set.
 int PlatformFlushFile(int fd);
 
-/// Finds the program to run for a system tool, which is named by its absolute path on macOS.
+/// Returns the path of the program to run for a system tool.
 ///
-/// Elsewhere a bundle may carry a stand-in for it: an executable file at the tool's path below the
-/// folder PlatformTools beside the folder of the running executable. Without one the result is
-/// `tool`.
+/// `tool` is the tool's absolute path on macOS, and there it is the result. On other systems a
+/// bundle may carry a replacement at "../PlatformTools" + `tool`, relative to the folder of the
+/// running executable. The result is the replacement if it is an executable file, else `tool`.
 std::string PlatformToolPath(const std::string& tool);
 
-/// Makes the C library read and write file names as UTF-8, when the locale taken from the
-/// environment has another character type or none. Every other part of the locale stays as it is.
+/// Sets the character type of the C library's locale to UTF-8, unless it is UTF-8 already. The
+/// other parts of the locale do not change.
 ///
-/// Archive names are converted by way of this character type. Changes the whole process: to be
-/// called while it has one thread, and again after anything that calls setlocale.
+/// libarchive converts the names in an archive by this character type. Since the whole process is
+/// affected, call this while the process has one thread. Call it again after a call of setlocale.
 void PlatformUseUtf8CharacterType();
 
-/// The logical resolution, in dots per inch, at which windows of this system have their design
-/// size.
+/// Returns the logical resolution, in dots per inch, at which windows of this system have the size
+/// for which they are designed.
 int PlatformDesignDpi();

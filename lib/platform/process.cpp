@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kEmptyInput = "/dev/null";
 
-// Owns what posix_spawn takes. Each step returns whether it succeeded.
+// Owns the attributes and the file actions for posix_spawn. Each step returns whether it succeeded.
 class SpawnSettings {
 public:
     SpawnSettings()
@@ -52,7 +52,7 @@ private:
     }
 
     bool SetInput() {
-        // Without the file the program could not be started at all.
+        // Leaves the input unchanged if the file is missing, since posix_spawn would fail then.
         return access(kEmptyInput, R_OK) != 0 ||
                posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, kEmptyInput, O_RDONLY,
                                                 0) == 0;
@@ -72,13 +72,14 @@ private:
 
 }  // namespace
 
-// Not QProcess: Qt 5.15 allocates memory between fork and exec. If another thread holds a lock of the
-// allocator at that moment, the child waits for it for ever. If the system has no room for another
-// process, QProcess::execute takes that for a start and waits for ever, too. posix_spawn also does not
-// copy the page tables of a process with fifty libraries.
+// Not by way of QProcess, because Qt 5.15 allocates memory between fork and exec. If another thread
+// holds a lock of the allocator at that moment, the child waits forever. If fork fails with EAGAIN,
+// QProcess::execute waits forever, too. posix_spawn is also faster, because it does not copy the
+// page tables of this process.
 pid_t PlatformStartTool(const std::string& tool, const std::vector<std::string>& arguments,
                         bool in_own_session) {
-    std::vector<char*> argv = {const_cast<char*>(tool.c_str())};  // Nobody writes to them.
+    // The casts are safe because posix_spawn does not change the arguments.
+    std::vector<char*> argv = {const_cast<char*>(tool.c_str())};
     for (const std::string& argument : arguments) {
         argv.push_back(const_cast<char*>(argument.c_str()));
     }

@@ -1,7 +1,6 @@
-// Processes: the tools that this program starts, and processes of others that it inspects and waits
-// for.
+// Starts tools, and inspects and watches other processes.
 //
-// Nothing here throws or logs, and every function may be called from any thread.
+// No function throws or logs, and any thread may call any function.
 #pragma once
 
 #include <sys/types.h>
@@ -13,54 +12,54 @@
 
 #include "lib/platform/unique_fd.h"
 
-/// Starts a program with the given arguments, which do not include its own name. Does not wait for it.
+/// Starts a program and does not wait for it. `arguments` do not include the program's own name.
 ///
-/// The program has the environment of this process, an empty standard input where the system has one to
-/// give, and the default handling of every signal that this process ignores. With `in_own_session` it
-/// also outlives the session of this process. Returns its process id, to be passed to
-/// PlatformWaitForTool once or never, or -1 when it could not be started.
+/// The program inherits the environment. Its standard input is empty, if this process can read
+/// /dev/null. All signals have their default handling. With `in_own_session` the program does not
+/// end together with the session of this process. Returns the process id, which may be passed to
+/// PlatformWaitForTool once. Returns -1 if the program could not be started.
 pid_t PlatformStartTool(const std::string& tool, const std::vector<std::string>& arguments,
                         bool in_own_session);
 
-/// Waits without a limit until a started program has ended. Returns its exit status, or -1 when a signal
-/// has ended it or when it cannot be waited for.
+/// Waits without a time limit until a started program has ended. Returns its exit status, or -1 if
+/// a signal has ended it or the waiting fails.
 int PlatformWaitForTool(pid_t tool);
 
-/// What the system tells about a process.
+/// Describes a process.
 struct PlatformProcess {
-    /// When it was started; none when unknown. A later setting of the clock moves it along on Linux,
-    /// and not on macOS.
+    /// The time of its start; empty if unknown. If the clock is set later, this time changes with
+    /// the clock on Linux, but not on macOS.
     std::optional<std::chrono::system_clock::time_point> start_time;
-    /// The stored path of the file that it runs; empty when unknown. For a script that is the
-    /// interpreter. After the file's removal the path may have a suffix.
+    /// The stored path of its executable file; empty if unknown. For a script, this is the
+    /// interpreter's path. After the file's removal, the path may have a suffix.
     std::string executable;
 };
 
-/// Inspects a process. What cannot be found out is left unknown: there is no such process, it belongs to
-/// another user, or the system does not tell.
+/// Inspects a process. A field is left unknown if the process does not exist, or if this user may
+/// not read it.
 PlatformProcess PlatformInspectProcess(pid_t pid);
 
-/// Tells when a process ends, also when another process takes over its number afterwards.
+/// Notices the end of a process, also if another process gets the same process id afterwards.
 class ProcessWatch {
 public:
-    /// Begins to watch the process that has this number now.
+    /// Begins to watch the process that has this id now.
     explicit ProcessWatch(pid_t pid);
 
-    /// False when there is no such process, when the system cannot watch one, or after a wait that
+    /// Returns false if the process did not exist, if the system could not watch it, or if a wait
     /// failed.
     bool IsWatching() const { return fd_.IsOpen(); }
 
-    /// Waits until the process has ended, at most for `limit`. Returns whether it has ended; it may be
-    /// a zombie that its parent has not waited for. Returns false at once when nothing is watched.
+    /// Waits until the process has ended, at most for `limit`. Returns whether it has ended; it may
+    /// still be a zombie. Returns false at once if no process is watched.
     bool WaitForEnd(std::chrono::milliseconds limit);
 
-    /// Whether a watched process has ended.
+    /// Returns whether the watched process has ended.
     bool HasEnded() { return WaitForEnd(std::chrono::milliseconds(0)); }
 
 private:
-    /// Waits once. Returns 1 when the process has ended, 0 at the limit, -1 with errno set on failure.
+    /// Waits once. Returns 1 if the process has ended, 0 at the limit, or -1 with errno set.
     int AwaitEvent(std::chrono::milliseconds limit) const;
 
     UniqueFd fd_;
-    bool has_ended_ = false;  // Some systems tell it once only.
+    bool has_ended_ = false;  // Some systems report the end only once.
 };

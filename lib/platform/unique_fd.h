@@ -5,8 +5,8 @@
 #include <cerrno>
 #include <utility>
 
-/// Owns a file descriptor and closes it; -1 stands for none. Closing leaves errno as it was, so
-/// that an error may be returned from the middle of a function.
+/// Owns a file descriptor and closes it; -1 stands for none. Closing leaves errno unchanged, so
+/// that a function may set errno and then return.
 class UniqueFd {
 public:
     UniqueFd() = default;
@@ -21,7 +21,7 @@ public:
     bool IsOpen() const { return fd_ >= 0; }
     int Get() const { return fd_; }
 
-    /// Gives the descriptor away; the caller closes it.
+    /// Returns the descriptor and no longer owns it; the caller closes it.
     int Release() { return std::exchange(fd_, -1); }
 
     void Close() {
@@ -29,8 +29,8 @@ public:
             return;
         }
         const int saved_errno = errno;
-        // Not retried: after EINTR the descriptor is gone or its state unknown, and closing it
-        // again could hit one that another thread has just opened.
+        // Not repeated after EINTR: the descriptor may be closed already, and another thread may
+        // have opened a file with the same number.
         ::close(std::exchange(fd_, -1));
         errno = saved_errno;
     }

@@ -16,13 +16,14 @@ namespace {
 
 constexpr std::size_t kFormattedTimeBytes = 64;
 
-/// The part of `text` that is converted: all that comes before its first 0.
+// Returns the part of `text` that is converted: everything before its first 0.
 template <typename Unit>
 std::basic_string_view<Unit> UntilNul(const std::basic_string<Unit>& text) {
     return text.c_str();
 }
 
-/// Such a text is the same in every normal form. A path mostly is.
+// Returns whether `text` is the same in every normal form because it has ASCII characters only.
+// Most paths are such texts.
 bool IsAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(),
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
@@ -33,25 +34,26 @@ int32_t Length(std::basic_string_view<Unit> text) {
     return static_cast<int32_t>(text.size());
 }
 
-/// Whether `error` is a failure; prints it if so.
+// Returns whether `error` is a failure, and prints a warning then.
 bool Warned(const char* function, UErrorCode error, int line) {
     if (U_SUCCESS(error)) {
         return false;
     }
-    // One call, so that warnings of two threads do not mix. C++ streams would be set up at every start
-    // of a program, for a warning that hardly any gives.
-    static_cast<void>(std::fprintf(stderr, "Warning: %s: error code %d at line %d\n", function,
-                                   static_cast<int>(error), line));
+    // In one call, so that warnings of two threads do not mix. Not by way of <iostream>, whose
+    // streams every program that uses this library would have to set up at its start.
+    static_cast<void>(  // A warning that cannot be printed is lost.
+        std::fprintf(stderr, "Warning: %s: error code %d at line %d\n", function,
+                     static_cast<int>(error), line));
     return true;
 }
 
-/// A text that ICU writes.
+// Holds a text that an ICU function has written.
 template <typename Unit>
 class IcuText {
 public:
-    /// Takes what `write` writes, an ICU call of the shape (buffer, capacity, error) -> length.
-    /// Most texts fit the first buffer; a longer one gets exactly the room that the first call
-    /// asked for.
+    // Calls `write`, an ICU function of the shape (buffer, capacity, error) -> length, with a
+    // buffer that is large enough for most texts. If the text is longer, calls it again with a
+    // buffer of the length that the first call returned. Returns ICU's error.
     template <typename Write>
     UErrorCode Take(Write write) {
         UErrorCode error = U_ZERO_ERROR;
@@ -69,7 +71,7 @@ public:
         return error;
     }
 
-    /// Empty until something has been taken.
+    // Returns the text. It is empty before a successful Take.
     std::basic_string_view<Unit> get() const { return text_; }
 
 private:
@@ -80,7 +82,7 @@ private:
     std::basic_string_view<Unit> text_;
 };
 
-// Both return false, and warn, for input that is not well-formed.
+// The next two functions print a warning and return false if the input is not well-formed.
 
 bool ToUtf8(std::u16string_view input, IcuText<char>& output) {
     const UErrorCode error = output.Take([=](char* buffer, int32_t capacity, UErrorCode* status) {
@@ -161,17 +163,18 @@ std::string StringHelper::Normalize(const std::string& text, NormalizationForm f
         return "";
     }
     if (normalized.get() == wide.get()) {
-        return std::string(input);  // Most texts are normal already, and need no way back.
+        return std::string(input);  // Spares most texts the conversion back to UTF-8.
     }
     IcuText<char> result;
-    ToUtf8(normalized.get(), result);  // Cannot fail: a normal form is well-formed.
+    // Ignored because every normal form is well-formed.
+    static_cast<void>(ToUtf8(normalized.get(), result));
     return std::string(result.get());
 }
 
 std::string StringHelper::GetFormatTime(const char* format) {
     const time_t now = time(nullptr);
     struct tm local = {};
-    tzset();  // localtime_r, unlike localtime, need not look at TZ again.
+    tzset();  // localtime_r, unlike localtime, may miss a change of TZ.
     if (localtime_r(&now, &local) == nullptr) {
         return "";
     }

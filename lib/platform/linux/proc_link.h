@@ -2,5 +2,6 @@
 
 #include <string>
 
-/// Reads the whole content of a link of /proc. Returns 0, or -1 with errno set and `content` as it was.
-int ReadProcLink(const char* link, std::string& content);
+/// Reads the target of a symbolic link in /proc. Returns 0 and sets `target`, or returns -1 with
+/// errno set and leaves `target` unchanged.
+int ReadProcLink(const char* link, std::string& target);

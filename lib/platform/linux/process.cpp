@@ -17,26 +17,26 @@ namespace {
 using std::chrono::nanoseconds;
 using std::chrono::system_clock;
 
-// The place of the start time among the fields of /proc/PID/stat that follow the program's name.
+// The number of the start time among the fields of /proc/PID/stat after the program's name.
 constexpr int kStartTimeField = 20;
 
 std::string ProcPath(pid_t pid, const char* name) {
     return "/proc/" + std::to_string(pid) + "/" + name;
 }
 
-// The beginning of a file of /proc; empty when it cannot be read.
+// Returns the first 1024 bytes of a file in /proc, or an empty text if it cannot be read.
 std::string ReadProcFile(const std::string& path) {
     const UniqueFd file = PlatformOpenFile(path, O_RDONLY);
-    std::array<char, 1024> text;  // The fields up to the start time are shorter.
+    std::array<char, 1024> text;  // Enough for the fields up to the start time.
     const ssize_t length =
         RetryInterrupted([&] { return read(file.Get(), text.data(), text.size()); });
     return std::string(text.data(), static_cast<std::size_t>(length < 0 ? 0 : length));
 }
 
-// Nanoseconds from the start of the system to that of the process, or nothing.
+// Returns the time from the start of the system to the start of the process.
 std::optional<nanoseconds> StartAfterBoot(pid_t pid) {
     const std::string text = ReadProcFile(ProcPath(pid, "stat"));
-    // The program's name stands in parentheses and may itself hold some, and blanks.
+    // The program's name is in parentheses, and may itself contain parentheses and blanks.
     std::size_t at = text.rfind(')');
     for (int field = 0; field < kStartTimeField && at != std::string::npos; ++field) {
         at = text.find(' ', at + 1);
@@ -49,7 +49,7 @@ std::optional<nanoseconds> StartAfterBoot(pid_t pid) {
     return nanoseconds(ticks * (nanoseconds(std::chrono::seconds(1)).count() / ticks_per_second));
 }
 
-// How long ago the system was started.
+// Returns the time since the start of the system.
 std::optional<nanoseconds> TimeSinceBoot() {
     struct timespec time;
     if (clock_gettime(CLOCK_BOOTTIME, &time) != 0) {
@@ -69,12 +69,12 @@ PlatformProcess PlatformInspectProcess(pid_t pid) {
             system_clock::now() -
             std::chrono::duration_cast<system_clock::duration>(*since_boot - *start);
     }
-    // A link that cannot be read leaves the executable unknown.
+    // Ignored because the executable is unknown then.
     static_cast<void>(ReadProcLink(ProcPath(pid, "exe").c_str(), process.executable));
     return process;
 }
 
-// The C library has a function for it only since 2.36.
+// A system call, because glibc has a function for it only since 2.36.
 ProcessWatch::ProcessWatch(pid_t pid) : fd_(static_cast<int>(syscall(SYS_pidfd_open, pid, 0))) {}
 
 int ProcessWatch::AwaitEvent(std::chrono::milliseconds limit) const {

@@ -8,17 +8,16 @@
 
 namespace {
 
-// The numbers are the kernel's interface. They stand here because its headers name only some of
-// them.
+// The numbers are part of the kernel's interface. Its headers define only some of them.
 struct FileSystemType {
     unsigned long magic;
     const char* name;
 };
 
 constexpr FileSystemType kFileSystemTypes[] = {
-    {0x6969, "nfs"},       {0x517B, "smbfs"},  // the first SMB client
-    {0xFF534D42, "smbfs"},                     // CIFS
-    {0xFE534D42, "smbfs"},                     // SMB 2 and later
+    {0x6969, "nfs"},       {0x517B, "smbfs"},  // The first SMB client.
+    {0xFF534D42, "smbfs"},                     // CIFS.
+    {0xFE534D42, "smbfs"},                     // SMB 2 and later.
     {0x4D44, "msdos"},
 };
 
@@ -36,8 +35,7 @@ int PlatformFileSystemType(const std::string& path, std::string& type) {
     if (RetryInterrupted([&] { return statfs(path.c_str(), &status); }) != 0) {
         return -1;
     }
-    // The field is signed on some architectures, and 0xFF534D42 must not become another number
-    // there.
+    // The cast keeps 0xFF534D42 positive on architectures where the field is signed.
     type = FileSystemTypeName(static_cast<unsigned int>(status.f_type));
     return 0;
 }

@@ -4,9 +4,9 @@
 
 #include "lib/platform/platform.h"
 
-// The calls are deprecated since 10.8 and still exported. getattrlist and F_GETPATH tell stored paths as
-// well. They are no fallback here: no object is known that only they accept, and the log names these
-// calls with their error numbers.
+// These functions are deprecated since macOS 10.8, but still exported. getattrlist and F_GETPATH
+// also give stored paths. They are not used as a fallback because no object is known that only they
+// accept.
 #pragma clang diagnostic push
 #pragma clang diagnostic ignored "-Wdeprecated-declarations"
 

@@ -13,7 +13,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::system_clock;
 
-// A queue that holds the end of the process as its only event, or none.
+// Returns a queue whose only event is the end of the process, or an invalid descriptor on failure.
 UniqueFd WatchEnd(pid_t pid) {
     UniqueFd queue(kqueue());
     struct kevent change = {};
@@ -30,7 +30,7 @@ PlatformProcess PlatformInspectProcess(pid_t pid) {
     std::array<int, 4> name = {CTL_KERN, KERN_PROC, KERN_PROC_PID, pid};
     struct kinfo_proc info = {};
     std::size_t size = sizeof(info);
-    // For a number that no process has, the call succeeds and gives nothing.
+    // If the process does not exist, sysctl succeeds and sets the size to 0.
     if (sysctl(name.data(), name.size(), &info, &size, nullptr, 0) == 0 && size == sizeof(info)) {
         const struct timeval& start = info.kp_proc.p_starttime;
         process.start_time = system_clock::time_point(std::chrono::seconds(start.tv_sec) +

@@ -11,7 +11,7 @@ int PlatformFlushFile(int fd) {
     if (RetryInterrupted([fd] { return fcntl(fd, F_FULLFSYNC); }) != -1) {
         return 0;
     }
-    // Not every file system has that call. After a fault of the drive, fsync could report success, since
-    // a fault may be reported only once.
+    // Some file systems do not support F_FULLFSYNC. After EIO, fsync is not tried: the system may
+    // report an error of the drive only once, so fsync could return success.
     return errno == EIO ? -1 : RetryInterrupted([fd] { return fsync(fd); });
 }
