@@ -22,7 +22,7 @@ Entries Read(const std::string& content) {
     return config.entries;
 }
 
-TEST(Config, Lines) {
+TEST(Config, LineIsAnEntryOrRefusesTheFile) {
     const char* const entries[][3] = {{" \t\v\f\r pid\t=\v81 \r\n", "pid", "81"},
                                       {"aZ0_-.=x", "aZ0_-.", "x"},
                                       {"a=b #c", "a", "b"},
@@ -39,7 +39,7 @@ TEST(Config, Lines) {
     }
 }
 
-TEST(Config, Files) {
+TEST(Config, FileAddsItsEntriesOrNothing) {
     const auto x = [](std::size_t count) { return std::string(count, 'x'); };
     const std::pair<std::string, Entries> rows[] = {
         {"# a=1\n\n \t\n  #\na#=b\na", {{"old", "1"}}},

@@ -1,17 +1,20 @@
+#define DEBUG 1  // As some build systems do.
 #include "lib/log.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <syslog.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <iostream>
 #include <numeric>
 #include <regex>
-#include <thread>
 #include <tuple>
 
 #include "tests/support/files.h"
@@ -32,18 +35,29 @@ void Log(const std::string& text) {
     Logger::LogMsg(Logger::LEVEL_ERROR, kLogComponent, "%s", text.c_str());
 }
 
-/// A file's records without their timestamps.
-std::string Texts(const std::string& path) {
-    return std::regex_replace(ReadFile(path), std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d )"), "");
+/// Returns records without their timestamps.
+std::string Unstamped(const std::string& records) {
+    return std::regex_replace(records, std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d )"), "");
 }
+
+std::string Texts(const std::string& path) {
+    return Unstamped(ReadFile(path));
+}
+
+/// Logs before and after `main`, if the environment asks for it.
+struct AroundMain {
+    AroundMain() { is_asked ? Log("begin") : void(); }
+    ~AroundMain() { is_asked ? Log("end") : void(); }
+    const bool is_asked = std::getenv("CORVIMO_LOG_AROUND_MAIN") != nullptr;
+} around_main;
 
 class LoggerTest : public testing::Test {
 protected:
     ~LoggerTest() override { Logger::Initialize(Logger::InitConfig()); }
 
-    int32_t LogTo(const std::string& file, int rotate_count = 50) {
-        return Logger::Initialize(Logger::TYPE_FILE, file, folder / "levels", rotate_count,
-                                  Logger::SCOPE_PROCESS);
+    int32_t LogTo(const std::string& file, int rotate_count = 50,
+                  Logger::SafetyScope scope = Logger::SCOPE_PROCESS) {
+        return Logger::Initialize(Logger::TYPE_FILE, file, folder / "levels", rotate_count, scope);
     }
 
     const TempDir folder;
@@ -52,34 +66,37 @@ protected:
 
 using LogSoak = LoggerTest;
 
-TEST(LoggerDeathTest, LogsToStandardErrorBeforeInitialize) {
+// The static objects are made before and after the logger's own, as in either order of linking.
+TEST(LoggerDeathTest, StaticObjectLogsToStandardErrorBeforeAndAfterMain) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");  // Starts the program anew.
-    const auto log = [] {
+    setenv("CORVIMO_LOG_AROUND_MAIN", "1", 1);
+    const auto end = [] {
         LOG_MSG(WARNING, "wanted");
-        _exit(0);
+        LOG_MSG(DEBUG, "unwanted");
+        Logger::Initialize(Logger::TYPE_STDERR, "", "", 1, Logger::SCOPE_NONE);
+        static const AroundMain late;
+        exit(0);
     };
-    EXPECT_EXIT(log(), testing::ExitedWithCode(0), "\\[WARNING\\] log_test\\(.*\\): wanted\n$");
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0),
+                "^.{20}begin.*: wanted\n.{20}begin.{20}end.{20}end$");
+    unsetenv("CORVIMO_LOG_AROUND_MAIN");
 }
 
 // The thresholds outlive a configuration, so each row has a component of its own.
-TEST_F(LoggerTest, ThresholdsComeFromTheirFile) {
+TEST_F(LoggerTest, ComponentNamedInTheLevelsFileLogsUpToItsLevel) {
     const std::tuple<const char*, const char*, int> rows[] = {
         {"t3=7\n", "t3", 7},       {"t4=3\n", "t4", 3},     {"t5=x\n", "t5", 0},
         {"t6=7\n", "t6_debug", 4}, {"t7=7\nt7\n", "t7", 4}, {"default_component=7\n", "t8", 4}};
     for (const auto& [levels, component, threshold] : rows) {
         WriteFile(folder / "levels", levels);
-        WriteFile(path, "");
         LogTo(path);
-        std::string expected;
-        for (int level = Logger::LEVEL_ERROR; level <= Logger::LEVEL_DEBUG; ++level) {
-            Logger::LogMsg(Logger::Level(level), component, "%d", level);
-            expected += level <= threshold ? std::to_string(level) : "";
-        }
-        EXPECT_EQ(Texts(path), expected) << levels;
+        EXPECT_EQ(Logger::GetCompLevel(component), threshold) << levels;
     }
+    Logger::LogMsg(Logger::LEVEL_ERROR, "t5", "silenced");
+    EXPECT_EQ(Texts(path), "");
 }
 
-TEST_F(LoggerTest, RecordsAreForTheUserAloneInLocalTime) {
+TEST_F(LoggerTest, RecordInAFileHasPrefixAndLocalTimeForTheUserAlone) {
     setenv("TZ", "FAR-05:45", 1);
     LogTo(path);
     int evaluated = 0;
@@ -95,13 +112,23 @@ TEST_F(LoggerTest, RecordsAreForTheUserAloneInLocalTime) {
     unsetenv("TZ");
 }
 
-TEST_F(LoggerTest, RotatesJustAboveTheLimit) {
-    WriteFile(path, std::string(kMaxFileBytes - kTimestampBytes - 2, 'x') + "\n");
-    LogTo(path);  // Takes the file's size over.
-    Log("x");
-    EXPECT_EQ(NamesIn(folder.path()).size(), 1U);  // Exactly the limit.
-    Log("x");
-    EXPECT_EQ(fs::file_size(path + "_0"), kMaxFileBytes + kTimestampBytes + 1U);
+TEST_F(LoggerTest, FileJustAboveTheLimitIsRotatedAlsoIfAnotherWriterHasMadeIt) {
+    const std::string content = std::string(kMaxFileBytes - kTimestampBytes - 2, 'x') + "\n";
+    for (const bool is_reopened : {false, true}) {
+        WriteFile(path, content);
+        LogTo(path, 50, Logger::SCOPE_SHARED);  // Takes the file's size over.
+        if (is_reopened) {
+            fs::rename(path, folder / "renamed");
+            WriteFile(path, content);
+            Log("x");
+            ++*Logger::InitializeSharedData();  // As the other writer does.
+        }
+        Log("x");
+        EXPECT_FALSE(fs::exists(path + "_0"));  // Exactly the limit.
+        Log("x");
+        EXPECT_EQ(fs::file_size(path + "_0"), kMaxFileBytes + kTimestampBytes + 1U);
+        fs::remove(path + "_0");
+    }
 }
 
 // A limit on the size of files cuts a record as a full disk does.
@@ -126,7 +153,7 @@ TEST_F(LoggerTest, RecordCutByAFailedWriteIsEndedBeforeTheNextOne) {
     }
 }
 
-TEST_F(LoggerTest, RotationKeepsTheNewestFiles) {
+TEST_F(LoggerTest, RepeatedRotationKeepsTheNewestFiles) {
     for (const auto& [rotate_count, kept] : {std::pair(3, 2U), {1, 1U}, {-1, 1U}}) {
         const TempDir own;
         LogTo(own / "log", rotate_count);
@@ -141,42 +168,67 @@ TEST_F(LoggerTest, RotationKeepsTheNewestFiles) {
     }
 }
 
-TEST_F(LoggerTest, FailedRotationDropsRecordsUntilInitialize) {
+TEST_F(LoggerTest, FailedInitializeOrRotationSilencesTheLoggerUntilInitialize) {
+    for (const std::string& bad : {std::string(), folder.path(), folder / "missing/log"}) {
+        EXPECT_EQ(LogTo(bad), -1) << bad;
+        EXPECT_FALSE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, kLogComponent));
+    }
     LogTo(path, 1);
     fs::create_directories(path + "_0/in the way");
     Log(std::string(kMaxFileBytes, 'x'));
     Log("lost");
+    EXPECT_EQ(Logger::PrintToFilePointer("lost"), 0);
     EXPECT_EQ(fs::file_size(path), kMaxFileBytes + 0U + kTimestampBytes);
     EXPECT_EQ(LogTo(folder / "new"), 0);
-    Log("kept");
-    EXPECT_EQ(Texts(folder / "new"), "kept");
+    EXPECT_EQ(Logger::PrintToFilePointer("kept\n"), kTimestampBytes + 5);
+    EXPECT_EQ(Logger::GetFileSize("/none"), 0);
+    EXPECT_EQ(Texts(folder / "new"), "kept\nstat(/none): No such file or directory (2)\n");
 }
 
-TEST_F(LoggerTest, FailedInitializeSilencesTheLogger) {
-    for (const std::string& bad : {std::string(), folder.path(), folder / "missing/log"}) {
-        EXPECT_EQ(LogTo(bad), -1) << bad;
-        EXPECT_FALSE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, kLogComponent));
-        EXPECT_EQ(LogTo(path), 0);
-        EXPECT_TRUE(Logger::IsNeedToLog(Logger::LEVEL_ERROR, kLogComponent));
+TEST_F(LoggerTest, StreamReadToItsEndIsLoggedToEachOutputWithTheErrorIfAsked) {
+    openlog("system", LOG_PERROR, LOG_USER);  // The system log prints to standard error, too.
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const std::tuple<int, int, int> rows[] = {{0, 0, 13}, {1, 6, 13}, {2, 4, 13}, {2, 4, 0}};
+    for (const auto& [type, flags, error] : rows) {
+        Logger::Initialize(Logger::Type(type), path, "", 1, Logger::SCOPE_SHARED);
+        std::stringstream message("text");
+        message.ignore(9) >> std::hex;
+        errno = error;
+        Logger::LogMsg3(Logger::LEVEL_ERROR, "any", message, Logger::ConfigFlag(flags));
+        EXPECT_EQ(errno, error);
     }
+    closelog();
+    EXPECT_EQ(Unstamped(testing::internal::GetCapturedStdout()),
+              "text, err=13:Permission denied\n");
+    EXPECT_EQ(Unstamped(testing::internal::GetCapturedStderr()),
+              "system: text\ntext, err=13:Permission deniedtext");
 }
 
 // With CORVIMO_WHOLE_MATRIX set, a million records of each thread: they just fit the files.
-TEST_F(LogSoak, LosesTearsAndRepeatsNothing) {
+TEST_F(LogSoak, RecordsOfManyThreadsAreWholeAndAChildFindsTheLockFree) {
     const int count = std::getenv("CORVIMO_WHOLE_MATRIX") != nullptr ? 1'000'000 : 50'000;
     ASSERT_EQ(0, LogTo(path));
     std::vector<int> next(8);  // The number of each thread's next record.
-    std::vector<std::thread> threads;
+    std::vector<std::future<void>> threads;
     for (std::size_t thread = 0; thread < next.size(); ++thread) {
-        threads.emplace_back([thread, count] {
+        threads.push_back(std::async(std::launch::async, [thread, count] {
             for (int number = 0; number < count; ++number) {
                 Logger::LogMsg(Logger::LEVEL_ERROR, "soak", "%zu %d\n", thread, number);
             }
-        });
+        }));
     }
-    for (std::thread& thread : threads) {
-        thread.join();
+    int status = 0;
+    for (int i = 0; i < 50 && status == 0; ++i) {
+        if (fork() == 0) {
+            alarm(60);
+            Logger::Lock();  // As every record of the child would.
+            _exit(0);
+        }
+        EXPECT_GT(wait(&status), 0);
     }
+    EXPECT_EQ(status, 0);
+    threads.clear();  // Waits until they end.
     const std::size_t rotations = NamesIn(folder.path()).size() - 1;
     EXPECT_GE(kMaxFileBytes + 64U, fs::file_size(path + "_0"));  // No record uncounted.
     for (std::size_t age = rotations + 1; age-- > 0;) {

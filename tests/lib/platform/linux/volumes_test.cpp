@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "lib/file/file-op.h"
+#include "tests/support/captured_log.h"
 #include "tests/support/files.h"
 #include "tests/support/temp_dir.h"
 
@@ -20,6 +21,7 @@ extern "C" int statfs(const char*, struct statfs* status) noexcept {
 }
 
 TEST(Volumes, OnANetworkAndOfTheFatTypeAreTold) {
+    const CapturedLog log;
     for (const unsigned number : {0x6969U, 0x517BU, 0xFF534D42U, 0xFE534D42U, 0x4D44U, 0xEF53U}) {
         file_system_number = number;  // The last one is that of ext4.
         EXPECT_EQ(number != 0x4D44 && number != 0xEF53, isMountPoint("/")) << std::hex << number;
