@@ -8,6 +8,9 @@ set(CMAKE_OSX_SYSROOT $ENV{MACOS_SYSROOT})
 set(CMAKE_CXX_COMPILER $ENV{LLVM}/clang++)
 set(CMAKE_CXX_COMPILER_TARGET $ENV{MACOS_ARCHITECTURE}-apple-darwin)
 set(CMAKE_CXX_FLAGS_INIT -stdlib=libc++)
+# The SDK's headers ask for this name, which compilers define from version 15 on.
+string(APPEND CMAKE_CXX_FLAGS_INIT
+    " -D__ENVIRONMENT_OS_VERSION_MIN_REQUIRED__=__ENVIRONMENT_MAC_OS_X_VERSION_MIN_REQUIRED__")
 if($ENV{MACOS_ARCHITECTURE} STREQUAL x86_64)
     # Clang 14 lacks the type there; Apple's <math.h> declares functions with it that nobody here calls.
     string(APPEND CMAKE_CXX_FLAGS_INIT " -D_Float16=float")
