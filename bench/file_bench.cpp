@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 #include <stdlib.h>
 
+#include <algorithm>
 #include <array>
 #include <climits>
 #include <cstdio>
@@ -13,12 +14,10 @@
 
 namespace {
 
-constexpr int kLevels = 8;
-
-/// A folder `kLevels` levels below the root; it goes with the process.
+/// A folder of a temporary one, some levels below the root; it goes with the process.
 class DeepFolder {
 public:
-    DeepFolder() {
+    explicit DeepFolder(long levels) {
         // As stored: the exact test is to succeed.
         const auto temporary = std::filesystem::canonical(std::filesystem::temp_directory_path());
         top_ = (temporary / "file_bench.XXXXXX").string();
@@ -27,7 +26,13 @@ public:
             std::exit(1);
         }
         path_ = top_;
-        for (auto level = std::count(top_.begin(), top_.end(), '/'); level < kLevels; ++level) {
+        auto level = std::count(top_.begin(), top_.end(), '/');
+        if (level > levels) {
+            std::fprintf(stderr, "file_bench: TMPDIR must be at most %ld levels deep\n",
+                         levels - 1);
+            std::exit(1);
+        }
+        for (; level < levels; ++level) {
             path_ += "/level-" + std::to_string(level);
         }
         std::filesystem::create_directories(path_);
@@ -43,13 +48,16 @@ private:
     std::string path_;
 };
 
-const std::string& DeepPath() {
-    static const DeepFolder folder;
-    return folder.path();
+const std::string& PathOfLevels(long levels) {
+    // Temporary folders are deeper than that on some systems; this one is on all of them, and no link.
+    static const std::string two_levels = "/usr/bin";
+    static const DeepFolder four_levels(4);
+    static const DeepFolder eight_levels(8);
+    return levels == 2 ? two_levels : levels == 4 ? four_levels.path() : eight_levels.path();
 }
 
 void ExistExactly(benchmark::State& state) {
-    const std::string& path = DeepPath();
+    const std::string& path = PathOfLevels(state.range(0));
     for (auto _ : state) {
         if (!IsFileExist(path, true)) {
             state.SkipWithError("the folder is gone");
@@ -58,7 +66,7 @@ void ExistExactly(benchmark::State& state) {
 }
 
 void ExistExactlyPeer(benchmark::State& state) {
-    const std::string& path = DeepPath();
+    const std::string& path = PathOfLevels(state.range(0));
     std::array<char, PATH_MAX> resolved;
     for (auto _ : state) {
         if (realpath(path.c_str(), resolved.data()) == nullptr) {
@@ -67,7 +75,7 @@ void ExistExactlyPeer(benchmark::State& state) {
     }
 }
 
-BENCHMARK(ExistExactly);
-BENCHMARK(ExistExactlyPeer);
+BENCHMARK(ExistExactly)->Arg(2)->Arg(4)->Arg(8);
+BENCHMARK(ExistExactlyPeer)->Arg(2)->Arg(4)->Arg(8);
 
 }  // namespace

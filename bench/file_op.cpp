@@ -10,6 +10,7 @@
 
 namespace {
 
+/// Lists a folder and every folder below it.
 int List(const std::string& folder) {
     constexpr int kNamesAndTypesOnly = 0;
     DIR_HANDLE handle;
@@ -20,6 +21,10 @@ int List(const std::string& folder) {
     int result;
     do {
         result = FSReadDir(handle, entry);
+        if (result > 0 && entry.type == FILE_TYPE_DIR && entry.name != "." && entry.name != ".." &&
+            List(folder + "/" + entry.name) != 0) {
+            result = -1;
+        }
     } while (result > 0);
     FSCloseDir(handle);
     return result;

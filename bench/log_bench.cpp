@@ -1,8 +1,10 @@
-// The cost of a record that is written, against spdlog writing the same text to a file of its own,
-// and of one that is suppressed, against one lookup in a map of thresholds.
+// The cost of a record that is written, against spdlog writing the same text to a file of its own, with
+// its basic sink and with the one that rotates; and of a record that is suppressed, against one lookup in
+// a map of thresholds.
 
 #include <benchmark/benchmark.h>
 #include <spdlog/sinks/basic_file_sink.h>
+#include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/spdlog.h>
 #include <stdlib.h>
 
@@ -11,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "lib/log.h"
 
@@ -22,6 +25,10 @@ const std::string kLogComponent = "service_debug";
 
 constexpr const char* kFrom = "/home/person/.Corvimo/Corvimo.app/Contents/Resources/a.png";
 constexpr const char* kTo = "/home/person/.Corvimo/Corvimo.app_tmp/Contents/Resources/a.png";
+
+// As the launcher rotates its log.
+constexpr int kFilesKept = 50;
+constexpr std::size_t kRotationSize = 5 << 20;
 
 /// A folder that goes with the process.
 class ScratchFolder {
@@ -50,8 +57,8 @@ const ScratchFolder& Scratch() {
 /// Starts the product's logger with thresholds in its file's own syntax.
 void StartLogger(const std::string& thresholds) {
     std::ofstream(Scratch() / "levels") << thresholds;
-    Logger::Initialize(Logger::TYPE_FILE, Scratch() / "product.log", Scratch() / "levels", 50,
-                       Logger::SCOPE_PROCESS);
+    Logger::Initialize(Logger::TYPE_FILE, Scratch() / "product.log", Scratch() / "levels",
+                       kFilesKept, Logger::SCOPE_PROCESS);
 }
 
 void StartWriting(const benchmark::State& /*state*/) {
@@ -64,11 +71,21 @@ void StartSuppressing(const benchmark::State& /*state*/) {
 
 std::shared_ptr<spdlog::logger> peer;
 
-void StartPeer(const benchmark::State& /*state*/) {
-    spdlog::drop_all();
-    peer = spdlog::basic_logger_mt("peer", Scratch() / "peer.log", true);
+void StartPeer(std::shared_ptr<spdlog::logger> logger) {
+    peer = std::move(logger);
     peer->set_pattern("%Y-%m-%dT%H:%M:%S (%5P:%5t) [%l] %v");
     peer->flush_on(spdlog::level::trace);
+}
+
+void StartBasicPeer(const benchmark::State& /*state*/) {
+    spdlog::drop_all();
+    StartPeer(spdlog::basic_logger_mt("peer", Scratch() / "peer.log", true));
+}
+
+void StartRotatingPeer(const benchmark::State& /*state*/) {
+    spdlog::drop_all();
+    StartPeer(spdlog::rotating_logger_mt("peer", Scratch() / "rotated.log", kRotationSize,
+                                         kFilesKept - 1));
 }
 
 void WriteRecord(benchmark::State& state) {
@@ -83,6 +100,10 @@ void WriteRecordPeer(benchmark::State& state) {
         peer->info(LOG_SOURCE "({}): copy from '{}' to '{}'", __LINE__, kFrom, kTo);
     }
     state.SetItemsProcessed(state.iterations());
+}
+
+void WriteRecordRotatingPeer(benchmark::State& state) {
+    WriteRecordPeer(state);
 }
 
 void SuppressRecord(benchmark::State& state) {
@@ -104,7 +125,8 @@ void SuppressRecordPeer(benchmark::State& state) {
 }
 
 BENCHMARK(WriteRecord)->Setup(StartWriting)->Threads(1)->Threads(4)->UseRealTime();
-BENCHMARK(WriteRecordPeer)->Setup(StartPeer)->Threads(1)->Threads(4)->UseRealTime();
+BENCHMARK(WriteRecordPeer)->Setup(StartBasicPeer)->Threads(1)->Threads(4)->UseRealTime();
+BENCHMARK(WriteRecordRotatingPeer)->Setup(StartRotatingPeer)->Threads(1)->Threads(4)->UseRealTime();
 BENCHMARK(SuppressRecord)->Setup(StartSuppressing);
 BENCHMARK(SuppressRecordPeer);
 

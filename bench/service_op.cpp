@@ -1,7 +1,14 @@
 // One operation of the installation service as a program:
 //
 //   service_op copy SOURCE DESTINATION | service_op extract ARCHIVE FOLDER
+//
+// or, of the libraries that it runs with, their versions:
+//
+//   service_op versions
 
+#include <archive.h>
+
+#include <QtGlobal>
 #include <clocale>
 #include <cstdio>
 #include <string>
@@ -39,6 +46,11 @@ int main(int argc, char** argv) {
     if (operation == "extract" && argc == 4) {
         return Measured([argv] { return Extract(argv[2], argv[3]); });
     }
-    std::fprintf(stderr, "usage: service_op copy SOURCE DESTINATION | extract ARCHIVE FOLDER\n");
+    if (operation == "versions" && argc == 2) {
+        std::printf("Qt %s, %s\n", qVersion(), archive_version_string());
+        return 0;
+    }
+    std::fprintf(stderr,
+                 "usage: service_op copy SOURCE DESTINATION | extract ARCHIVE FOLDER | versions\n");
     return 2;
 }
