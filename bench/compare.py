@@ -1,7 +1,6 @@
 """The work of compare.sh. Needs Python 3.9 and nothing but its standard library."""
 
 import argparse
-import contextlib
 import dataclasses
 import functools
 import os
@@ -9,10 +8,9 @@ import pathlib
 import re
 import subprocess
 import sys
-import tempfile
 
-from comparison import machine, report, rights, rows
-from comparison.stage import QUICK, Places, RunFailed, Sizes, Stage
+from comparison import machine, report, rights, rows, volumes
+from comparison.stage import QUICK, RunFailed, Sizes, Stage
 
 DESCRIPTION = """\
 Compares the launcher and its parts with programs that do the same work, in paired runs A B A B, and
@@ -56,6 +54,13 @@ def parse_arguments():
         metavar="FOLDER",
         help="a folder that is held in memory (default /dev/shm)",
     )
+    parser.add_argument(
+        "--disk",
+        type=pathlib.Path,
+        metavar="FOLDER",
+        help="a folder on a disk (default: a file system of its own in the temporary folder where"
+        " root can mount one, else that folder)",
+    )
     # Given by compare.sh, which gives root a list of mounts of its own.
     parser.add_argument("--may-mount", action="store_true", help=argparse.SUPPRESS)
     arguments = parser.parse_args()
@@ -73,33 +78,6 @@ def sizes_of(arguments):
     if arguments.pairs is not None:
         sizes = dataclasses.replace(sizes, pairs=arguments.pairs, growth_pairs=arguments.pairs)
     return sizes
-
-
-@contextlib.contextmanager
-def second_volume(folder, may_mount):
-    """Mounts another volume in memory and gives its folder; None where that is not possible."""
-    words = ["mount", "-t", "tmpfs", "-o", "mode=0777", "corvimo-bench", folder]
-    if not may_mount or subprocess.run(words, stderr=subprocess.DEVNULL).returncode != 0:
-        print("No second volume in memory: moves start on the disk.", file=sys.stderr)
-        yield None
-        return
-    try:
-        yield folder
-    finally:
-        subprocess.run(["umount", folder], check=True)
-
-
-@contextlib.contextmanager
-def working_places(arguments):
-    """Makes the folders to work in, which belong to the user that everything is run as."""
-    with contextlib.ExitStack() as stack:
-        memory, mounted, disk = (
-            pathlib.Path(stack.enter_context(tempfile.TemporaryDirectory(dir=place)))
-            for place in (arguments.memory, arguments.memory, None)
-        )
-        rights.give_to_user(memory, mounted, disk)
-        second = stack.enter_context(second_volume(mounted, arguments.may_mount))
-        yield Places(memory, disk, second)
 
 
 def measure(stage, wanted):
@@ -127,7 +105,7 @@ def wanted_rows(stage, pattern):
 
 def main():
     arguments = parse_arguments()
-    with working_places(arguments) as places:
+    with volumes.working_places(arguments.memory, arguments.disk, arguments.may_mount) as places:
         stage = Stage(arguments.build.resolve(), places, sizes_of(arguments))
         wanted = wanted_rows(stage, arguments.only)
         if not wanted:

@@ -11,7 +11,7 @@ for tool in python3 bsdtar; do
 done
 command=(python3 -B -X utf8 "$here/compare.py")
 own_mounts=(unshare --mount --propagation private)
-# Root mounts a second volume in memory, which nobody else sees and which goes with the process.
+# What root mounts, nobody else sees, and it goes with the process.
 if ((EUID == 0)) && "${own_mounts[@]}" true 2>/dev/null; then
     exec "${own_mounts[@]}" "${command[@]}" --may-mount "$@"
 fi

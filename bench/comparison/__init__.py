@@ -7,5 +7,6 @@ growth    how time and memory grow with the number of entries
 rows      the table of all comparisons, with their targets
 report    verdicts, tables and the documents that hold them
 machine   the words that describe the machine
+volumes   the folders that everything is measured in
 rights    the ordinary user that everything is run as
 """

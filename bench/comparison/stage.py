@@ -47,7 +47,7 @@ class Sizes:
     part_pairs: int = 21
     part_seconds: float = 0.1
     growth_pairs: int = 11
-    disk_growth_pairs: int = 5
+    disk_growth_pairs: int = 3
     huge_pairs: int = 3
 
 
