@@ -28,8 +28,8 @@ public:
         path_ = top_;
         auto level = std::count(top_.begin(), top_.end(), '/');
         if (level > levels) {
-            std::fprintf(stderr, "file_bench: TMPDIR must be at most %ld levels deep\n",
-                         levels - 1);
+            static_cast<void>(std::fprintf(
+                stderr, "file_bench: TMPDIR must be at most %ld levels deep\n", levels - 1));
             std::exit(1);
         }
         for (; level < levels; ++level) {

@@ -43,6 +43,7 @@ int main(int argc, char** argv) {
     if (operation == "list" && argc == 3) {
         return Measured([argv] { return List(argv[2]); });
     }
-    std::fprintf(stderr, "usage: file_op remove PATH | move SOURCE DESTINATION | list FOLDER\n");
+    static_cast<void>(std::fprintf(
+        stderr, "usage: file_op remove PATH | move SOURCE DESTINATION | list FOLDER\n"));
     return 2;
 }

@@ -28,7 +28,7 @@ using Name = std::array<char, 32>;
 
 Name Numbered(const char* kind, long number) {
     Name name;
-    std::snprintf(name.data(), name.size(), "%s-%07ld", kind, number);
+    static_cast<void>(std::snprintf(name.data(), name.size(), "%s-%07ld", kind, number));
     return name;
 }
 
@@ -102,7 +102,8 @@ int main(int argc, char** argv) {
     const long count = argc == 4 ? std::strtol(argv[3], nullptr, 10) : 0;
     if (count < 1 ||
         (shape != "foldered" && shape != "flat" && shape != "empty" && shape != "nested")) {
-        std::fprintf(stderr, "usage: make_tree foldered|flat|empty|nested FOLDER COUNT\n");
+        static_cast<void>(
+            std::fprintf(stderr, "usage: make_tree foldered|flat|empty|nested FOLDER COUNT\n"));
         return 2;
     }
     const UniqueFd top = MakeFolder(AT_FDCWD, argv[2]);

@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
     const bool is_quiet = argc > 1 && std::strcmp(argv[1], "--quiet") == 0;
     char** const arguments = argv + (is_quiet ? 2 : 1);
     if (argc < (is_quiet ? 3 : 2)) {
-        std::fprintf(stderr, "usage: measure [--quiet] PROGRAM ARGUMENTS...\n");
+        static_cast<void>(std::fprintf(stderr, "usage: measure [--quiet] PROGRAM ARGUMENTS...\n"));
         return 2;
     }
     const auto begin = std::chrono::steady_clock::now();
@@ -53,10 +53,11 @@ int main(int argc, char** argv) {
     int status = 0;
     struct rusage usage = {};
     if (error != 0 || wait4(child, &status, 0, &usage) != child) {
-        std::fprintf(stderr, "%s: %s\n", arguments[0], std::strerror(error != 0 ? error : errno));
+        static_cast<void>(std::fprintf(stderr, "%s: %s\n", arguments[0],
+                                       std::strerror(error != 0 ? error : errno)));
         return 2;
     }
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - begin;
-    std::printf("%.6f %ld\n", seconds.count(), usage.ru_maxrss);
+    static_cast<void>(std::printf("%.6f %ld\n", seconds.count(), usage.ru_maxrss));
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1;
 }

@@ -16,6 +16,7 @@ int main() {
     if (file == nullptr) {
         return 1;
     }
-    std::fprintf(file, "%lld.%09ld\n", static_cast<long long>(now.tv_sec), now.tv_nsec);
+    static_cast<void>(
+        std::fprintf(file, "%lld.%09ld\n", static_cast<long long>(now.tv_sec), now.tv_nsec));
     return std::fclose(file) == 0 ? 0 : 1;
 }

@@ -134,7 +134,7 @@ bool TakeFolder(const std::string& source, const std::string& destination, Sourc
 int main(int argc, char** argv) {
     const std::string operation = argc == 4 ? argv[1] : "";
     if (operation != "copy" && operation != "move") {
-        std::fprintf(stderr, "usage: plain_tree copy|move SOURCE DESTINATION\n");
+        static_cast<void>(std::fprintf(stderr, "usage: plain_tree copy|move SOURCE DESTINATION\n"));
         return 2;
     }
     const Source then = operation == "move" ? Source::kGoes : Source::kStays;

@@ -47,10 +47,10 @@ int main(int argc, char** argv) {
         return Measured([argv] { return Extract(argv[2], argv[3]); });
     }
     if (operation == "versions" && argc == 2) {
-        std::printf("Qt %s, %s\n", qVersion(), archive_version_string());
+        static_cast<void>(std::printf("Qt %s, %s\n", qVersion(), archive_version_string()));
         return 0;
     }
-    std::fprintf(stderr,
-                 "usage: service_op copy SOURCE DESTINATION | extract ARCHIVE FOLDER | versions\n");
+    static_cast<void>(std::fprintf(
+        stderr, "usage: service_op copy SOURCE DESTINATION | extract ARCHIVE FOLDER | versions\n"));
     return 2;
 }

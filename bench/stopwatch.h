@@ -11,6 +11,6 @@ int Measured(Operation operation) {
     const auto begin = std::chrono::steady_clock::now();
     const int result = operation();
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - begin;
-    std::printf("%.6f\n", seconds.count());
+    static_cast<void>(std::printf("%.6f\n", seconds.count()));
     return result == 0 ? 0 : 1;
 }

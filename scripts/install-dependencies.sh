@@ -17,7 +17,7 @@ packages_of() {
     fuzz) echo clang libclang-rt-dev ;;
     qt6) echo clang qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev ;;
     analyse) echo clang-tidy clang-tools cppcheck ;;
-    bench) echo libbenchmark-dev libspdlog-dev libarchive-tools strace valgrind ;;
+    bench) echo libbenchmark-dev libspdlog-dev libarchive-tools e2fsprogs strace valgrind ;;
     archive) echo debootstrap ;;
     macos) echo clang file libc++-14-dev libplist-utils lld llvm openssl ;;
     demo) echo fonts-dejavu-core ;;

@@ -106,18 +106,23 @@ def line(cells):
     return "| " + " | ".join(cells) + " |"
 
 
+def counted_words(number, one, many):
+    return f"{number} {one if number == 1 else many}"
+
+
 def summary(results):
-    """Returns how many targets hold, in a sentence or two."""
+    """Returns how many targets hold, in a sentence."""
     counted = [result for result in results if result.is_counted()]
     verdicts = [result.verdict() for result in counted]
-    parts = [f"Of {len(counted)} targets {verdicts.count('yes')} hold"]
-    if "no" in verdicts:
-        parts.append(f"{verdicts.count('no')} are missed")
-    if "unclear" in verdicts:
-        parts.append(f"{verdicts.count('unclear')} are unclear")
     unmeasured = sum(bool(result.skipped) for result in counted)
-    if unmeasured:
-        parts.append(f"{unmeasured} were not measured")
+    parts = [f"Of {len(counted)} targets {counted_words(verdicts.count('yes'), 'holds', 'hold')}"]
+    for number, one, many in (
+        (verdicts.count("no"), "is missed", "are missed"),
+        (verdicts.count("unclear"), "is unclear", "are unclear"),
+        (unmeasured, "was not measured", "were not measured"),
+    ):
+        if number > 0:
+            parts.append(counted_words(number, one, many))
     return (", ".join(parts[:-1]) + " and " + parts[-1] if len(parts) > 1 else parts[0]) + "."
 
 

@@ -1,8 +1,8 @@
 """The folders that everything is measured in.
 
 Root mounts what an ordinary user cannot: a second volume in memory, to move to and from, and on the disk a
-file system of its own. Many disks are mounted so that they are told of freed blocks at once; removing a
-file there takes up to a thousand times as long as the removal itself, and differs from minute to minute."""
+file system of its own. Many disks are told of each block that is freed (the option `discard`). The removal
+of a file then takes up to a hundred times as long, and differs from minute to minute."""
 
 import contextlib
 import pathlib
