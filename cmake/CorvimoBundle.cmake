@@ -77,7 +77,7 @@ function(corvimo_bundle_package)
         OUTPUT ${resources}/package/lumaport.cpk ${resources}/INFO
         COMMAND ${scripts}/make-package.sh
             --depfile ${PROJECT_BINARY_DIR}/bundle/lumaport.cpk.d ${client} ${resources}
-        DEPENDS ${scripts}/make-package.sh ${scripts}/make_package.py ${stamp}
+        DEPENDS ${packer} ${stamp}
         DEPFILE ${PROJECT_BINARY_DIR}/bundle/lumaport.cpk.d
         COMMENT "Packing the client ${client}"
         VERBATIM)

@@ -1,312 +1,190 @@
-"""The work of make-package.sh. Needs Python 3.9 and nothing but its standard library."""
-
-import argparse
-import contextlib
-import dataclasses
-import os
-import pathlib
-import re
-import shutil
-import stat
-import struct
-import sys
-import tempfile
-import zipfile
-import zlib
-
-DESCRIPTION = """\
-make-package.sh CLIENT.app OUT             write OUT/package/lumaport.cpk and OUT/INFO
+"""make-package.sh CLIENT.app OUT             write OUT/package/lumaport.cpk and OUT/INFO
 make-package.sh --list PACKAGE             list a package's entries
 make-package.sh --verify PACKAGE CLIENT.app  compare a package with the client it was made from
 
 A package is a zip archive of everything below CLIENT.app. Its bytes depend on names, contents,
 links and executable bits alone: entries are sorted, bear one fixed time, and have mode 755 when
-they are folders or executable by anybody and 644 otherwise.
+they are folders or executable by anybody and 644 otherwise. A package that verifies holds what
+packing the client would write; only the compression may be of another version of zlib.
 
-What the Finder of macOS leaves behind, files named ._* and .DS_Store, is left out, and named.
+What the Finder of macOS and archivers leave behind (._*, .DS_Store and __MACOSX) is left out, and
+counted in the last line. Refused are names that a Mac would change or merge.
 
 The last entry is Contents/Resources/INFO. A launcher that is interrupted while it unpacks therefore
 leaves a copy without a build number, which the next start replaces.
 
-Exits 0 on success, 1 when a client is refused or a package is wrong, 2 on wrong usage."""
+Exits 0 on success, 1 when a client is refused or a package is wrong, 2 on wrong usage.
+"""
 
-EXECUTABLE = "Contents/MacOS/corvimo-ui"
-INFO = "Contents/Resources/INFO"
-ENTRY_TIME = (1980, 1, 1, 0, 0, 0)  # The earliest that a zip archive can hold.
-CHUNK = 1 << 20
-MAX_BUILD = 2**31 - 1  # The launcher compares builds as 32-bit signed numbers.
-# What the Finder leaves behind on disks: not the client's, and a person's Mac would take it for metadata.
-FINDER_FILE = re.compile(r"\._.*|\.DS_Store")
-# What zipfile raises about an archive that is damaged or none at all.
-DAMAGE = (zipfile.BadZipFile, zlib.error, struct.error, EOFError, RuntimeError, UnicodeDecodeError)
+import argparse
+import contextlib
+import os
+import pathlib
+import re
+import signal
+import stat
+import sys
 
+import package_zip
+from client_entries import Refused, failure, links_that_lead_out, printable, read_client
 
-class Refused(Exception):
-    """What is wrong with an input, and what to do about it, in words for the person who ran us."""
+# Others make a build tool pack at each build, since CMake or Ninja reads them otherwise.
+NAME_FOR_MAKE = re.compile(r"[\w ./+,=@()~-]*")
 
-
-@dataclasses.dataclass(frozen=True)
-class Entry:
-    """One object below the client's folder; a folder's name ends with a slash."""
-
-    name: str
-    path: str
-    mode: int  # Type and permissions as the package holds them, not as the disk does.
-
-    def open(self):
-        return open(self.path, "rb")
-
-    def link_target(self):
-        return os.fsencode(os.readlink(self.path))
+temporary_files = set()  # What an interruption would leave behind.
 
 
-def packed_mode(disk_mode):
-    """The mode in the package: the type, and of the permissions only the executable bit."""
-    if stat.S_ISLNK(disk_mode):
-        return stat.S_IFLNK | 0o777
-    executable = stat.S_ISDIR(disk_mode) or disk_mode & 0o111
-    return stat.S_IFMT(disk_mode) | (0o755 if executable else 0o644)
+def tell(text):
+    """Prints each line of a message, even if nobody reads it any more."""
+    with contextlib.suppress(OSError):
+        for line in text.split("\n"):
+            print(f"make-package.sh: {printable(line)}", file=sys.stderr)
+        sys.stderr.flush()
 
 
-def scan(folder, prefix=""):
-    """Yields an Entry for every object of the client below `folder`, in no order."""
-    with os.scandir(folder) as items:
-        for item in items:
-            if FINDER_FILE.fullmatch(item.name):
-                print(f"left out: {item.path}", file=sys.stderr)
-                continue
-            mode = item.stat(follow_symlinks=False).st_mode
-            if stat.S_IFMT(mode) not in (stat.S_IFDIR, stat.S_IFREG, stat.S_IFLNK):
-                raise Refused(f"'{item.path}' is no file, folder or symbolic link; remove it")
-            name = prefix + item.name + ("/" if stat.S_ISDIR(mode) else "")
-            try:
-                name.encode()
-            except UnicodeEncodeError:
-                raise Refused(f"{os.fsencode(item.path)} is not UTF-8; rename it") from None
-            yield Entry(name, item.path, packed_mode(mode))
-            if stat.S_ISDIR(mode):
-                yield from scan(item.path, name)
+def end_at(number, _frame):
+    """Handles a signal: removes what is half written, and ends the process."""
+    for path in temporary_files:
+        with contextlib.suppress(OSError):
+            os.unlink(path)
+    with contextlib.suppress(OSError):
+        os.write(2, f"make-package.sh: interrupted by {signal.Signals(number).name}\n".encode())
+    os._exit(128 + number)
 
 
-def client_entries(client):
-    """All entries of a client in the order of the package. Refuses what no launcher can install."""
-    check_executable(client)
-    build_number(client)
-    return sorted(scan(client), key=lambda entry: (entry.name == INFO, entry.name.encode()))
-
-
-def check_executable(client):
-    if not client.is_dir():
-        raise Refused(f"'{client}' is no folder; name the .app folder of a built client")
-    executable = client / EXECUTABLE
-    if not executable.is_file():
-        raise Refused(f"'{client}' has no {EXECUTABLE}; name the .app folder of a built client")
-    if not executable.stat().st_mode & 0o111:
-        raise Refused(f"'{executable}' is not executable; run: chmod +x '{executable}'")
-
-
-def build_number(client):
-    """The client's build: build_version in the group Version of its INFO, the last one if there are
-    several, as the launcher reads it."""
-    advice = f"give the client a file {INFO} with the lines [Version] and build_version=NUMBER"
-    info = client / INFO
-    if info.is_symlink() or not info.is_file():
-        raise Refused(f"'{client}' has no regular file {INFO}; {advice}")
-    group = value = ""
-    for line in info.read_text(encoding="utf-8-sig", errors="replace").splitlines():
-        key, _, text = line.partition("=")
-        if line.startswith("["):
-            group = line.strip("[] ")
-        elif group == "Version" and key.strip() == "build_version":
-            value = text.strip(' "')
-    if not re.fullmatch("[0-9]+", value, re.ASCII) or int(value) > MAX_BUILD:
-        raise Refused(f"'{info}' holds no integer build_version up to {MAX_BUILD}; {advice}")
-    return int(value)
+def handle_signals():
+    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        if signal.getsignal(number) is not signal.SIG_IGN:  # As nohup asks.
+            signal.signal(number, end_at)
 
 
 @contextlib.contextmanager
 def replacing(path):
-    """A stream whose content takes the place of `path` at once when the block ends, and vanishes
-    when the block fails."""
-    path.parent.mkdir(parents=True, exist_ok=True)
-    handle, temporary = tempfile.mkstemp(prefix=f".{path.name}.", dir=path.parent)
+    """Gives a stream whose content takes the place of `path` at once when the block ends, and
+    vanishes when the block fails."""
+    temporary = path.with_name(f".{path.name}.{os.getpid()}")
+    temporary_files.add(temporary)
     try:
-        with os.fdopen(handle, "w+b") as stream:
+        if path.is_dir():
+            raise Refused(f"'{path}' is a folder; remove it, or name another place")
+        path.parent.mkdir(parents=True, exist_ok=True)
+        temporary.unlink(missing_ok=True)
+        with open(temporary, "x+b") as stream:
             yield stream
-        os.chmod(temporary, 0o644)
-        os.replace(temporary, path)
-    except BaseException:
-        os.unlink(temporary)
-        raise
-
-
-def local_attributes(record):
-    """An extra field that repeats an entry's type and mode in front of its data (libarchive's "xl").
-
-    Both stand in the archive's directory, at its end; a reader of a package that has lost its end would
-    otherwise take links for files and lose the executable bits, and see nothing wrong."""
-    versions = record.create_system << 8 | record.create_version
-    return struct.pack("<HHBHI", 0x6C78, 7, 0b101, versions, record.external_attr)
-
-
-def add_entry(archive, entry):
-    record = zipfile.ZipInfo(entry.name, ENTRY_TIME)
-    record.create_system = 3  # Unix: the upper half of external_attr is a mode.
-    record.external_attr = entry.mode << 16
-    record.extra = local_attributes(record)
-    if stat.S_ISREG(entry.mode):
-        record.compress_type = zipfile.ZIP_DEFLATED
-        record.file_size = os.stat(entry.path).st_size  # Decides whether sizes take 64 bits.
-        with entry.open() as source, archive.open(record, "w") as target:
-            shutil.copyfileobj(source, target, CHUNK)
-    else:
-        archive.writestr(record, entry.link_target() if stat.S_ISLNK(entry.mode) else b"")
+        temporary.chmod(0o644)
+        temporary.replace(path)
+    except OSError as error:
+        advice = "look at its folder's permissions and free space, or name another place"
+        raise failure("write", path, error, advice) from None
+    finally:
+        with contextlib.suppress(OSError):
+            temporary.unlink()
+        temporary_files.discard(temporary)
 
 
 def show_progress(done, total):
     if sys.stderr.isatty():
         end = "\n" if done == total else ""
-        print(f"\rpacking {done} of {total}", end=end, file=sys.stderr, flush=True)
+        with contextlib.suppress(OSError):
+            print(f"\rpacking {done} of {total}", end=end, file=sys.stderr, flush=True)
 
 
-def make(client, out, dependency_file):
-    if out.resolve().is_relative_to(client.resolve()):
-        raise Refused(f"'{out}' lies inside the client; name another folder to write to")
-    entries = client_entries(client)
-    package = out / "package" / "lumaport.cpk"
-    with replacing(package) as stream:
-        with zipfile.ZipFile(stream, "w") as archive:
-            for done, entry in enumerate(entries, start=1):
-                add_entry(archive, entry)
-                show_progress(done, len(entries))
-    # INFO follows the package: the other way round, an interruption would announce a build that the
-    # package does not hold, and every start of the launcher would install again.
-    with replacing(out / "INFO") as stream:
-        stream.write((client / INFO).read_bytes())
+def check_outputs(folder, outputs):
+    """Refuses to write into the client, which would hold its own package the next time."""
+    for path in outputs:
+        top = os.path.realpath(folder)
+        if os.path.commonpath([top, os.path.realpath(path.parent)]) == top:
+            raise Refused(f"'{path}' lies inside the client; name another folder to write to")
+
+
+def make(folder, out, dependency_file):
+    package, info = out / "package" / "lumaport.cpk", out / "INFO"
+    check_outputs(folder, [package, info] + [dependency_file] * bool(dependency_file))
+    client = read_client(folder)
+    for name, target in links_that_lead_out(folder, client.entries):
+        tell(f"warning: '{name}' leads out of the client, to '{target}'; a Mac may lack that")
+    # INFO takes its place after the package: the other way round, an interruption would announce a
+    # build that the package does not hold, and every start of the launcher would install again.
+    with replacing(info) as info_stream:
+        info_stream.write(client.info)
+        with replacing(package) as stream:
+            package_zip.write_package(stream, client.entries, show_progress)
+            size = stream.seek(0, os.SEEK_END)
     if dependency_file:
-        with replacing(dependency_file) as stream:
-            stream.write(dependencies(package, client, entries))
-    size = package.stat().st_size
-    print(f"{package}: build {build_number(client)}, {len(entries)} entries, {size} bytes")
+        write_dependencies(dependency_file, package, folder, client.entries)
+    counts = f"{len(client.entries)} entries, {size} bytes{client.summary()}"
+    print(f"{package}: build {client.build}, {counts}")
 
 
-def dependencies(package, client, entries):
-    """A make rule: the package depends on the client's folders, whose times tell of objects that
-    came, went or changed their kind, and on its files."""
-    inputs = [str(client)] + [e.path for e in entries if not stat.S_ISLNK(e.mode)]
-    target, *sources = (escaped_for_make(path) for path in [str(package), *inputs])
-    return os.fsencode(f"{target}: \\\n  " + " \\\n  ".join(sources) + "\n")
+def write_dependencies(path, package, folder, entries):
+    """Writes a make rule: the package depends on the client's folders, whose times tell of objects
+    that came, went or changed their kind, and on its files."""
+    inputs = [str(folder)] + [entry.path for entry in entries if not stat.S_ISLNK(entry.mode)]
+    names = [str(package)] + names_for_make(inputs, path.with_name(f"{path.name}.inputs"))
+    target, *sources = (name.replace(" ", "\\ ") for name in names)
+    with replacing(path) as stream:
+        stream.write(os.fsencode(f"{target}: \\\n  " + " \\\n  ".join(sources) + "\n"))
 
 
-def escaped_for_make(path):
-    return re.sub(r"([ #\\])", r"\\\1", path).replace("$", "$$")
-
-
-@contextlib.contextmanager
-def opened(package):
-    """The archive of a package; what the block lets through of its damage is told with its name."""
-    if not package.is_file():
-        raise Refused(f"'{package}' is no file; name a package that this script has written")
+def names_for_make(paths, folder):
+    """Returns paths for a make rule. One that a build tool would misread gets a symbolic link in the
+    folder and is replaced by the link's name."""
     try:
-        with zipfile.ZipFile(package) as archive:
-            yield archive
-    except DAMAGE as error:
-        raise Refused(f"'{package}' is no whole zip archive ({error}); write it anew") from None
-
-
-def entry_mode(record):
-    return record.external_attr >> 16
-
-
-def last_entry_fault(records):
-    if not records or records[-1].filename != INFO:
-        return f"the last entry is not {INFO}: an interrupted installation would not be repaired"
-    return None
+        folder.mkdir(parents=True, exist_ok=True)
+        for link in folder.iterdir():
+            link.unlink()
+        names = []
+        for path in paths:
+            if not NAME_FOR_MAKE.fullmatch(path):
+                link = folder / str(len(names))
+                link.symlink_to(os.path.abspath(path))
+                path = str(link)
+            names.append(path)
+        return names
+    except OSError as error:
+        raise failure("write to", folder, error, "remove it, and run again") from None
 
 
 def list_package(package):
-    with opened(package) as archive:
-        records = archive.infolist()
-        for record in records:
-            link = stat.S_ISLNK(entry_mode(record))
-            arrow = " -> " + os.fsdecode(archive.read(record)) if link else ""
-            mode = stat.filemode(entry_mode(record))
-            print(f"{mode} {record.file_size:>12} {record.CRC:08x} {record.filename}{arrow}")
-    fault = last_entry_fault(records)
-    print(f"{len(records)} entries; {fault or 'INFO is the last'}")
+    with package_zip.opened(package) as (_, archive):
+        lines = [package_zip.listed(archive, record) for record in archive.infolist()]
+        fault = package_zip.last_entry_fault(archive.namelist())
+    print(*map(printable, lines), f"{len(lines)} entries; {fault or 'INFO is the last'}", sep="\n")
     return 1 if fault else 0
 
 
-def same_bytes(left, right):
-    while True:
-        chunk = left.read(CHUNK)
-        if chunk != right.read(CHUNK):
-            return False
-        if not chunk:
-            return True
-
-
-def content_fault(archive, record, entry):
-    try:
-        if stat.S_ISLNK(entry.mode):
-            return None if archive.read(record) == entry.link_target() else "another link target"
-        if stat.S_ISREG(entry.mode):
-            with entry.open() as expected, archive.open(record) as packed:
-                return None if same_bytes(packed, expected) else "another content"
-    except DAMAGE as error:
-        return f"damaged ({error})"
-    return None
-
-
-def entry_fault(archive, record, entry):
-    if entry_mode(record) != entry.mode:
-        return f"mode {stat.filemode(entry_mode(record))} instead of {stat.filemode(entry.mode)}"
-    return content_fault(archive, record, entry)
-
-
-def package_faults(archive, entries):
-    """Yields one line for each difference between a package and the client's entries."""
-    wanted = {entry.name: entry for entry in entries}
-    records = archive.infolist()
-    for record in records:
-        entry = wanted.pop(record.filename, None)
-        if entry is None:
-            yield f"{record.filename}: extra"
-            continue
-        fault = entry_fault(archive, record, entry)
-        if fault:
-            yield f"{record.filename}: {fault}"
-    for name in wanted:
-        yield f"{name}: missing"
-    fault = last_entry_fault(records)
-    if fault:
-        yield fault
-
-
-def verify(package, client):
-    entries = client_entries(client)
-    with opened(package) as archive:
-        faults = list(package_faults(archive, entries))
+def verify(package, folder):
+    client = read_client(folder)
+    with package_zip.opened(package) as (stream, archive):
+        faults = list(package_zip.package_faults(stream, archive, client.entries))
     for fault in faults:
-        print(f"{package}: {fault}", file=sys.stderr)
-    print(f"{package}: {len(entries)} entries expected, {len(faults)} faults")
+        print(f"{package}: {printable(fault)}", file=sys.stderr)
+    counts = f"{len(client.entries)} entries expected, {len(faults)} faults{client.summary()}"
+    print(f"{package}: {counts}")
     return 1 if faults else 0
+
+
+def path_argument(text):
+    if not text:
+        raise argparse.ArgumentTypeError("a path is empty")
+    return pathlib.Path(text)
 
 
 def parse_arguments():
     parser = argparse.ArgumentParser(
         prog="make-package.sh",
         usage="make-package.sh CLIENT.app OUT | --list PACKAGE | --verify PACKAGE CLIENT.app",
-        description=DESCRIPTION,
+        description=__doc__,
         formatter_class=argparse.RawDescriptionHelpFormatter,
     )
-    path = pathlib.Path
-    parser.add_argument("make", nargs="*", type=path, metavar="CLIENT.app OUT")
-    parser.add_argument("--list", type=path, metavar="PACKAGE")
-    parser.add_argument("--verify", nargs=2, type=path, metavar=("PACKAGE", "CLIENT.app"))
+    parser.add_argument("make", nargs="*", type=path_argument, metavar="CLIENT.app OUT")
+    parser.add_argument("--list", type=path_argument, metavar="PACKAGE")
+    parser.add_argument(
+        "--verify", nargs=2, type=path_argument, metavar=("PACKAGE", "CLIENT.app")
+    )
     parser.add_argument(
         "--depfile",
-        type=path,
+        type=path_argument,
         metavar="FILE",
         help="also write what the package depends on, as a make rule",
     )
@@ -317,17 +195,35 @@ def parse_arguments():
     return arguments
 
 
-def main():
+def run():
+    """Returns the exit status."""
     arguments = parse_arguments()
+    if arguments.list:
+        return list_package(arguments.list)
+    if arguments.verify:
+        return verify(*arguments.verify)
+    make(*arguments.make, arguments.depfile)
+    return 0
+
+
+def main():
+    handle_signals()
     try:
-        if arguments.list:
-            return list_package(arguments.list)
-        if arguments.verify:
-            return verify(*arguments.verify)
-        make(*arguments.make, arguments.depfile)
-        return 0
-    except (Refused, OSError) as error:
-        print(f"make-package.sh: {error}", file=sys.stderr)
+        try:
+            status = run()
+        except SystemExit as asked:
+            status = asked.code
+        sys.stdout.flush()
+        return status
+    except Refused as error:
+        tell(str(error))
+        return 1
+    except OSError as error:
+        # Python writes what is left of the output at its end, and would complain again.
+        os.dup2(os.open(os.devnull, os.O_WRONLY), sys.stdout.fileno())
+        if isinstance(error, BrokenPipeError):
+            return 128 + signal.SIGPIPE
+        tell(f"cannot write to standard output: {error.strerror}; look at where it leads")
         return 1
 
 
