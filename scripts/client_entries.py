@@ -12,7 +12,7 @@ EXECUTABLE = "Contents/MacOS/corvimo-ui"
 INFO = "Contents/Resources/INFO"
 CHUNK = 1 << 20
 MAX_BUILD = 2**31 - 1  # The launcher compares builds as 32-bit signed numbers.
-MAX_NAME = 960  # A path on macOS has up to 1023 bytes; some lead to the person's copy of the client.
+MAX_NAME = 960  # A path on macOS has up to 1023 bytes, and some lead to the installed client.
 MAX_TOLD = 20
 # What the Finder and archivers leave behind. A person's Mac would take some of it for metadata.
 DROPPING = re.compile(r"\._.*|\.DS_Store|__MACOSX", re.DOTALL)
@@ -128,14 +128,14 @@ def name_fault(name):
 
 
 def same_name_faults(entries):
-    """Yields one line for each two names that are one on a disk that ignores letter case."""
+    """Yields one line for each two names that a disk which ignores letter case merges."""
     seen = {}
     for entry in entries:
         name = entry.name.rstrip("/")
         key = unicodedata.normalize("NFC", unicodedata.normalize("NFD", name).casefold())
         other = seen.setdefault(key, name)
         if other is not name:
-            yield f"'{other}' and '{name}' differ only in letter case; rename one, for most Macs merge them"
+            yield f"'{other}' and '{name}' differ only in letter case; rename one"
 
 
 def read_client(folder):
@@ -154,7 +154,7 @@ def read_client(folder):
 
 
 def regular_file(entries, name):
-    """Returns the entry of a regular file, or None. Folders on the way that are links hide it."""
+    """Returns the entry of a regular file, or None. A link to its folder gives it no entry."""
     files = (entry for entry in entries if entry.name == name and stat.S_ISREG(entry.mode))
     return next(files, None)
 

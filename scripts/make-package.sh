@@ -7,4 +7,5 @@ if ! command -v python3 >/dev/null; then
     echo "make-package.sh: python3 is missing; install it (Debian: apt-get install python3)" >&2
     exit 1
 fi
-exec python3 -B -X utf8 "$here/make_package.py" "$@"
+trap '' INT # While Python starts, it would answer Ctrl-C with a traceback.
+exec python3 -B -S -X utf8 "$here/make_package.py" "$@"

@@ -16,6 +16,11 @@ leaves a copy without a build number, which the next start replaces.
 Exits 0 on success, 1 when a client is refused or a package is wrong, 2 on wrong usage.
 """
 
+import interruption
+
+if __name__ == "__main__":
+    interruption.handle_signals()  # Before the other modules load, which takes a while.
+
 import argparse
 import contextlib
 import os
@@ -31,8 +36,6 @@ from client_entries import Refused, failure, links_that_lead_out, printable, rea
 # Others make a build tool pack at each build, since CMake or Ninja reads them otherwise.
 NAME_FOR_MAKE = re.compile(r"[\w ./+,=@()~-]*")
 
-temporary_files = set()  # What an interruption would leave behind.
-
 
 def tell(text):
     """Prints each line of a message, even if nobody reads it any more."""
@@ -42,28 +45,12 @@ def tell(text):
         sys.stderr.flush()
 
 
-def end_at(number, _frame):
-    """Handles a signal: removes what is half written, and ends the process."""
-    for path in temporary_files:
-        with contextlib.suppress(OSError):
-            os.unlink(path)
-    with contextlib.suppress(OSError):
-        os.write(2, f"make-package.sh: interrupted by {signal.Signals(number).name}\n".encode())
-    os._exit(128 + number)
-
-
-def handle_signals():
-    for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
-        if signal.getsignal(number) is not signal.SIG_IGN:  # As nohup asks.
-            signal.signal(number, end_at)
-
-
 @contextlib.contextmanager
 def replacing(path):
     """Gives a stream whose content takes the place of `path` at once when the block ends, and
-    vanishes when the block fails."""
+    vanishes when the block fails or a signal ends the process."""
     temporary = path.with_name(f".{path.name}.{os.getpid()}")
-    temporary_files.add(temporary)
+    interruption.temporary_files.add(temporary)
     try:
         if path.is_dir():
             raise Refused(f"'{path}' is a folder; remove it, or name another place")
@@ -79,7 +66,7 @@ def replacing(path):
     finally:
         with contextlib.suppress(OSError):
             temporary.unlink()
-        temporary_files.discard(temporary)
+        interruption.temporary_files.discard(temporary)
 
 
 def show_progress(done, total):
@@ -102,7 +89,7 @@ def make(folder, out, dependency_file):
     check_outputs(folder, [package, info] + [dependency_file] * bool(dependency_file))
     client = read_client(folder)
     for name, target in links_that_lead_out(folder, client.entries):
-        tell(f"warning: '{name}' leads out of the client, to '{target}'; a Mac may lack that")
+        tell(f"warning: the link '{name}' leads out of the client, to '{target}'")
     # INFO takes its place after the package: the other way round, an interruption would announce a
     # build that the package does not hold, and every start of the launcher would install again.
     with replacing(info) as info_stream:
@@ -127,8 +114,8 @@ def write_dependencies(path, package, folder, entries):
 
 
 def names_for_make(paths, folder):
-    """Returns paths for a make rule. One that a build tool would misread gets a symbolic link in the
-    folder and is replaced by the link's name."""
+    """Returns paths for a make rule. One that a build tool would misread gets a symbolic link in
+    the folder, and its name is the link's."""
     try:
         folder.mkdir(parents=True, exist_ok=True)
         for link in folder.iterdir():
@@ -179,9 +166,7 @@ def parse_arguments():
     )
     parser.add_argument("make", nargs="*", type=path_argument, metavar="CLIENT.app OUT")
     parser.add_argument("--list", type=path_argument, metavar="PACKAGE")
-    parser.add_argument(
-        "--verify", nargs=2, type=path_argument, metavar=("PACKAGE", "CLIENT.app")
-    )
+    parser.add_argument("--verify", nargs=2, type=path_argument, metavar=("PACKAGE", "CLIENT.app"))
     parser.add_argument(
         "--depfile",
         type=path_argument,
@@ -207,7 +192,6 @@ def run():
 
 
 def main():
-    handle_signals()
     try:
         try:
             status = run()

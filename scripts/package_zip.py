@@ -1,7 +1,7 @@
 """Writes a package, and compares one with what would be written.
 
-A package is a zip archive. A header stands in front of each entry's data, and a directory at the end repeats
-the headers. The launcher reads both, so both are compared.
+A package is a zip archive. A header stands in front of each entry's data, and a directory at the
+end repeats the headers. The launcher reads both, so both are compared.
 """
 
 import contextlib
@@ -37,8 +37,8 @@ RECORD_FIELDS = (
 def local_attributes(record):
     """Returns an extra field for an entry's header: its type and mode (libarchive's "xl").
 
-    Both stand in the archive's directory, at its end; a reader of a package that has lost its end would
-    otherwise take links for files and lose the executable bits, and see nothing wrong."""
+    Both stand in the archive's directory, at its end. Without this field, a reader of a package
+    that has lost its end would take links for files and lose the executable bits."""
     versions = record.create_system << 8 | record.create_version
     return struct.pack("<HHBHI", 0x6C78, 7, 0b101, versions, record.external_attr)
 
@@ -214,7 +214,7 @@ def last_entry_fault(names):
 
 
 def package_faults(stream, archive, entries):
-    """Yields one line for each difference between a package and what packing the entries would write."""
+    """Yields one line for each difference from what packing the entries would write."""
     wanted = {entry.name: entry for entry in entries}
     records = []
     differs = False

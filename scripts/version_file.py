@@ -1,7 +1,7 @@
-"""Reads INFO, the version file of a client, as the launcher reads it: by the rules of Qt's QSettings.
+"""Reads INFO, a client's version file, as the launcher reads it: by the rules of Qt's QSettings.
 
-These rules say where a line ends, what a comment is, and which escapes names and values may hold. Any
-other reading would let a client through whose build number the launcher does not find.
+These rules say where a line ends, what a comment is, and which escapes names and values may hold.
+With other rules a client would pass whose build number the launcher does not find.
 """
 
 import re
@@ -41,7 +41,7 @@ def unescaped_name(name):
 
 
 def unescaped_value(text):
-    """Returns a value; a list of several is an empty one."""
+    """Returns a value, which is empty for a list of several."""
     value, kept, quotes = "", 0, 0
     for part in VALUE_PART.finditer(text.decode("latin-1").lstrip(" \t")):
         hexadecimal, octal, escaped, blanks, comma, plain = part.groups()
@@ -79,10 +79,10 @@ def sections(data):
 
 
 def build_version(data):
-    """Returns the text of build_version in the section Version, and None when Qt finds none.
+    """Returns the text of build_version in the section Version, or None when Qt finds none.
 
-    Qt looks in one section only: the last one, in the order of names, before the name that is sought.
-    A section such as [Version/a] therefore hides [Version]."""
+    Qt looks in one section only: the last one, in the order of names, before the name that it
+    seeks. A section such as [Version/a] therefore hides [Version]."""
     found, key = sections(data), "Version/build_version"
     nearest = max(name for name in found if name <= key)
     return found[nearest].get(key) if nearest else None
