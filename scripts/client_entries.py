@@ -20,7 +20,7 @@ CONTROL_CHARACTER = re.compile("[\x00-\x1f\x7f-\x9f]")
 
 
 class Refused(Exception):
-    """What is wrong with an input, and what to do about it, for the person who ran us."""
+    """What is wrong with an input, and what to do about it: one line for each argument."""
 
 
 def printable(text):
@@ -140,13 +140,13 @@ def same_name_faults(entries):
 
 def read_client(folder):
     """Returns the Client in a folder. Refuses what no launcher can install."""
-    if not folder.is_dir():
+    if not os.path.isdir(folder):
         raise Refused(f"'{folder}' is no folder; name the .app folder of a built client")
     found = Scan(folder)
     faults = sorted(found.faults) + sorted(same_name_faults(found.entries))
     if faults:
         more = len(faults) - MAX_TOLD
-        raise Refused("\n".join(faults[:MAX_TOLD] + [f"and {more} more like these"] * (more > 0)))
+        raise Refused(*faults[:MAX_TOLD], *[f"and {more} more like these"] * (more > 0))
     entries = sorted(found.entries, key=lambda entry: (entry.name == INFO, entry.name.encode()))
     check_executable(folder, entries)
     info = read_info(folder, entries)

@@ -38,11 +38,9 @@ NAME_FOR_MAKE = re.compile(r"[\w ./+,=@()~-]*")
 
 
 def tell(text):
-    """Prints each line of a message, even if nobody reads it any more."""
+    """Prints a message as one line, even if nobody reads it any more."""
     with contextlib.suppress(OSError):
-        for line in text.split("\n"):
-            print(f"make-package.sh: {printable(line)}", file=sys.stderr)
-        sys.stderr.flush()
+        print(f"make-package.sh: {printable(text)}", file=sys.stderr, flush=True)
 
 
 @contextlib.contextmanager
@@ -52,7 +50,7 @@ def replacing(path):
     temporary = path.with_name(f".{path.name}.{os.getpid()}")
     interruption.temporary_files.add(temporary)
     try:
-        if path.is_dir():
+        if os.path.isdir(path):
             raise Refused(f"'{path}' is a folder; remove it, or name another place")
         path.parent.mkdir(parents=True, exist_ok=True)
         temporary.unlink(missing_ok=True)
@@ -61,7 +59,7 @@ def replacing(path):
         temporary.chmod(0o644)
         temporary.replace(path)
     except OSError as error:
-        advice = "look at its folder's permissions and free space, or name another place"
+        advice = "name a place in a folder that has free space and that you may write to"
         raise failure("write", path, error, advice) from None
     finally:
         with contextlib.suppress(OSError):
@@ -100,7 +98,7 @@ def make(folder, out, dependency_file):
     if dependency_file:
         write_dependencies(dependency_file, package, folder, client.entries)
     counts = f"{len(client.entries)} entries, {size} bytes{client.summary()}"
-    print(f"{package}: build {client.build}, {counts}")
+    print(f"{printable(package)}: build {client.build}, {counts}")
 
 
 def write_dependencies(path, package, folder, entries):
@@ -145,9 +143,9 @@ def verify(package, folder):
     with package_zip.opened(package) as (stream, archive):
         faults = list(package_zip.package_faults(stream, archive, client.entries))
     for fault in faults:
-        print(f"{package}: {printable(fault)}", file=sys.stderr)
+        print(printable(f"{package}: {fault}"), file=sys.stderr)
     counts = f"{len(client.entries)} entries expected, {len(faults)} faults{client.summary()}"
-    print(f"{package}: {counts}")
+    print(f"{printable(package)}: {counts}")
     return 1 if faults else 0
 
 
@@ -192,6 +190,9 @@ def run():
 
 
 def main():
+    for name in ("stdin", "stdout", "stderr"):
+        if getattr(sys, name) is None:  # It is closed, and no file of ours may take its number.
+            setattr(sys, name, open(os.devnull, "w"))
     try:
         try:
             status = run()
@@ -200,7 +201,8 @@ def main():
         sys.stdout.flush()
         return status
     except Refused as error:
-        tell(str(error))
+        for line in error.args:
+            tell(line)
         return 1
     except OSError as error:
         # Python writes what is left of the output at its end, and would complain again.

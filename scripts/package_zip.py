@@ -83,7 +83,7 @@ def write_package(stream, entries, show_progress):
 @contextlib.contextmanager
 def opened(package):
     """Gives a package's stream and archive, and refuses a package that is damaged."""
-    if not package.is_file():
+    if not os.path.isfile(package):
         raise Refused(f"'{package}' is no file; name a package that this script has written")
     try:
         with open(package, "rb") as stream, zipfile.ZipFile(stream) as archive:
