@@ -4,11 +4,20 @@ import os
 import pathlib
 import resource
 import shutil
+import signal
 import subprocess
+import sys
 import tempfile
+import time
 import unittest
 
-MAKE_PACKAGE = pathlib.Path(__file__).parents[2] / "scripts/make-package.sh"
+SCRIPTS = pathlib.Path(__file__).parents[2] / "scripts"
+sys.path.append(str(SCRIPTS))
+import client_entries
+import package_zip
+import version_file
+
+MAKE_PACKAGE = SCRIPTS / "make-package.sh"
 CLIENT_UI = "Contents/MacOS/corvimo-ui"
 INFO = "Contents/Resources/INFO"
 NUMBERS = "Contents/Resources/numbers"
@@ -69,13 +78,12 @@ class MakePackageTest(unittest.TestCase):
         copy = shutil.copytree(self.client, self.folder / "copy.app", symlinks=True)
         os.utime(copy / INFO, (1, 1))
         (copy / INFO).chmod(0o666)
-        finder_files = [copy / ".DS_Store", copy / "Contents/._INFO"]
-        for file in finder_files:
-            file.touch()
+        (copy / ".DS_Store").touch()
+        (copy / "Contents/__MACOSX/._INFO").mkdir(parents=True)
         no_utf8 = os.environ | {"LC_ALL": "C", "PYTHONUTF8": "0"}
         self.assertEqual(first, self.make(copy, env=no_utf8))
-        told = self.run_script("--verify", self.package, copy)
-        self.assertEqual([f"left out: {f}" for f in finder_files], sorted(told.splitlines())[1:])
+        for command in ([copy, self.out], ["--verify", self.package, copy]):
+            self.assertRegex(self.run_script(*command), r".*, 2 left out \(.*\)\n$")
 
     def test_a_failed_run_leaves_the_former_package(self):
         limit = (resource.RLIMIT_FSIZE, (9, 9))
@@ -86,14 +94,27 @@ class MakePackageTest(unittest.TestCase):
         make = [self.client, self.out]
         verify = ["--verify", self.package, self.client]
         show = ["--list", self.package]
-        infos = ["[Version]\n[A]\nbuild_version=1", "[Version]\nBuild_Version=1"]
-        infos += ["[Version]\nbuild_version=" + text for text in ("12a", "", "2147483648")]
+        infos = ["[Version]\nbuild_version=" + text for text in ("12a", "", "2147483648")]
+        contents, nfd, resources = "Contents", "u\u0308", "cd Contents/Resources && "
         for arguments, change, message in (
             (make, 'rm -r "$PWD"', "is no folder"),
-            (make, f"rm {CLIENT_UI}", "has no Contents/MacOS"),
+            (make, f"rm {CLIENT_UI}", "has no regular file Contents/MacOS"),
+            *(
+                (make, f'mv {name} moved && ln -s "$PWD/moved" {name}', "has no regular file")
+                for name in (contents, "Contents/MacOS", "Contents/Resources", CLIENT_UI, INFO)
+            ),
             (make, f"chmod 644 {CLIENT_UI}", "chmod +x"),
             (make, "mkfifo pipe", "remove it"),
             (make, r"mkdir $(printf '\377')", "rename it"),
+            (make, "touch 'a\nb'", r"a\x0ab' has a control character"),
+            (
+                make,
+                f"{resources}touch {nfd} ü",
+                r"'Contents/Resources/u\u0308') is not in composed",
+            ),
+            (make, "touch Äa äA", "'Äa' and 'äA' differ only in letter case"),
+            (make, 'mkdir -p $(printf "%0200d/" 1 2 3 4 5)', "more than 960 bytes"),
+            ([self.client, MAKE_PACKAGE], "", f"cannot write '{MAKE_PACKAGE}/INFO': File exists"),
             (make, f"rm {INFO}", "has no regular file"),
             *((make, f"echo '{info}' >{INFO}", "holds no integer") for info in infos),
             ([self.client, self.client / "out"], "", "lies inside the client"),
@@ -103,7 +124,7 @@ class MakePackageTest(unittest.TestCase):
             (verify, "touch new", "new: missing"),
             (verify, "ln -sfn Z Contents/Resources/Current", "Current: another link target"),
             # A name is first in front of its entry's data, and again in the directory.
-            (verify, 'sed -i 0,/numbers/s//NUMBERS/ "$PACKAGE"', f"{NUMBERS}: damaged"),
+            (verify, 'sed -i 0,/numbers/s//NUMBERS/ "$PACKAGE"', f"{NUMBERS}: damaged (the header"),
             (verify, 'sed -i s:/INFO:/LAST:g "$PACKAGE"', f"the last entry is not {INFO}"),
             (show, 'sed -i s:/INFO:/LAST:g "$PACKAGE"', f"the last entry is not {INFO}"),
             (verify, 'truncate -s 99 "$PACKAGE"', f"'{self.package}' is no whole zip archive"),
@@ -116,11 +137,93 @@ class MakePackageTest(unittest.TestCase):
                 self.change(change)
                 self.assertIn(message, self.run_script(*arguments, status=1))
 
+    def test_a_package_that_verifies_installs_as_the_client_is(self):
+        self.change(f"rm {NUMBERS} && chmod -R u=rwX,go=rX .")
+        package = bytearray(self.make())
+        entries = client_entries.read_client(self.client).entries
+        listing = ("find . ! -name . -printf '%y %m %P %l\\n' | sort", "grep -rn '' . | sort")
+        for bit in range(0, 8 * len(package), 3):
+            package[bit // 8] ^= 1 << bit % 8
+            self.package.write_bytes(package)
+            package[bit // 8] ^= 1 << bit % 8
+            try:
+                with package_zip.opened(self.package) as (stream, archive):
+                    faults = list(package_zip.package_faults(stream, archive, entries))
+            except client_entries.Refused as error:
+                self.assertIn(str(self.package), str(error))
+                continue
+            if not faults:
+                new = self.folder / f"new {bit}"
+                new.mkdir()
+                subprocess.run(["cmake", "-E", "tar", "xf", self.package], check=True, cwd=new)
+                for command in listing:
+                    installed, wanted = (
+                        subprocess.check_output(command, shell=True, cwd=folder)
+                        for folder in (new, self.client)
+                    )
+                    self.assertEqual(wanted, installed, bit)
+
+    def test_reads_info_as_the_launcher_does(self):
+        for info, build in (
+            ("[A]\nbuild_version=1\n[Version]\r\n;x\n build_version = 2;x\n", "2"),
+            ("[Version]\nbuild_version=1\n[A]\n[ Ver%73ion ] x\nbuild%5Fversion=2", "2"),
+            ('\ufeff[Version]\nbuild_version="1" "2"\\\n\\x33\\64\\q', "1234"),
+            ('[Version]\na="\nbuild_version=1"\nbuild_version=@ByteArray(2)', "2"),
+            ("[Version]\nbuild_version=1,2", ""),
+            ("[Version]\nbuild_version=1\n[Version/a]\n", None),
+            ("[Version]\na=\u2028build_version=1", None),
+            ("[[Version]]\nbuild_version=1", None),
+            ("[Version]\n[A]\nbuild_version=1", None),
+            ("[Version]\nBuild_Version=1", None),
+            ("Version\\build_version=1", None),
+        ):
+            self.assertEqual(build, version_file.build_version(info.encode()), info)
+
+    def test_an_interruption_leaves_nothing_half_written(self):
+        self.change("truncate -s 99G Contents/endless")
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+            command = [MAKE_PACKAGE, self.client, self.out]
+            with subprocess.Popen(command, stderr=subprocess.PIPE, text=True) as process:
+                while not list(self.out.glob("package/.*")) and process.poll() is None:
+                    time.sleep(0.01)
+                process.send_signal(number)
+                told = process.stderr.read()
+            self.assertRegex(told, rf"^make-package\.sh: interrupted by {number.name}.*\n$")
+            self.assertEqual(128 + number, process.returncode)
+            self.assertEqual(["package"], [path.name for path in self.out.rglob("*")])
+
+    def test_ends_with_what_its_output_allows(self):
+        self.make()
+        reader, writer = os.pipe()
+        os.close(reader)
+        for output, status, told in (("/dev/full", 1, "output: No space"), (writer, 141, "")):
+            with open(output, "w") as stream:
+                command = [MAKE_PACKAGE, "--list", self.package]
+                result = subprocess.run(command, stdout=stream, stderr=subprocess.PIPE, check=False)
+            self.assertEqual(status, result.returncode)
+            self.assertIn(told, result.stderr.decode())
+            self.assertEqual(len(told) > 0, len(result.stderr) > 0)
+        self.run_script(self.client, "", status=2, cwd=self.folder)
+
+    def test_warns_of_links_that_lead_out(self):
+        self.change("ln -s /usr absolute && ln -s ../.. Contents/out && ln -s .. Contents/in")
+        told = self.run_script(self.client, self.out)
+        names = [line.split("'")[1] for line in told.splitlines() if "warning" in line]
+        self.assertEqual(["Contents/out", "absolute"], names)
+
     def test_lists_dependencies_for_make(self):
         rule = self.folder / "rule.d"
-        self.run_script("--depfile", rule, self.client, self.out)
-        for part in ("/aus\\ gabe/package/lumaport.cpk: ", "/empty ", " \"a\"\\ 'b'\\ $$c\\ \\#d "):
-            self.assertIn(part + "\\\n", rule.read_text())
+        self.change(r"touch 'a\b'")
+        plain = self.client.rename(self.folder / "my client.app")
+        for _ in range(2):
+            self.run_script("--depfile", rule, plain, self.out)
+            target, *inputs = rule.read_text().replace("\\ ", "\0").split(" \\\n  ")
+            self.assertEqual(f"{self.out}/package/lumaport.cpk:".replace(" ", "\0"), target)
+            paths = [pathlib.Path(name.strip().replace("\0", " ")) for name in inputs]
+            for name in ("", "a\\b", "Contents/Resources/empty", CLIENT_UI, INFO):
+                (path,) = [path for path in paths if path.samefile(plain / name)]
+                self.assertEqual("\\" in name, path.parent == self.folder / "rule.d.inputs", path)
+            self.assertNotIn("\\", "".join(map(str, paths)))
 
 
 if __name__ == "__main__":
