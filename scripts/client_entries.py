@@ -143,11 +143,11 @@ def read_client(folder):
     if not os.path.isdir(folder):
         raise Refused(f"'{folder}' is no folder; name the .app folder of a built client")
     found = Scan(folder)
-    faults = sorted(found.faults) + sorted(same_name_faults(found.entries))
+    entries = sorted(found.entries, key=lambda entry: (entry.name == INFO, entry.name.encode()))
+    faults = sorted(found.faults) + list(same_name_faults(entries))
     if faults:
         more = len(faults) - MAX_TOLD
         raise Refused(*faults[:MAX_TOLD], *[f"and {more} more like these"] * (more > 0))
-    entries = sorted(found.entries, key=lambda entry: (entry.name == INFO, entry.name.encode()))
     check_executable(folder, entries)
     info = read_info(folder, entries)
     return Client(entries, info, build_number(folder / INFO, info), found.left_out)

@@ -117,7 +117,8 @@ def names_for_make(paths, folder):
     try:
         folder.mkdir(parents=True, exist_ok=True)
         for link in folder.iterdir():
-            link.unlink()
+            if link.is_symlink():
+                link.unlink()
         names = []
         for path in paths:
             if not NAME_FOR_MAKE.fullmatch(path):
@@ -205,8 +206,6 @@ def main():
             tell(line)
         return 1
     except OSError as error:
-        # Python writes what is left of the output at its end, and would complain again.
-        os.dup2(os.open(os.devnull, os.O_WRONLY), sys.stdout.fileno())
         if isinstance(error, BrokenPipeError):
             return 128 + signal.SIGPIPE
         tell(f"cannot write to standard output: {error.strerror}; look at where it leads")

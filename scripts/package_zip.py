@@ -19,7 +19,7 @@ ENTRY_TIME = (1980, 1, 1, 0, 0, 0)  # The earliest that a zip archive can hold.
 LARGE = 1 << 30  # From this size on, a header has room for sizes of 64 bits.
 # What zipfile raises about an archive that is damaged or none at all.
 DAMAGE = (
-    *(zipfile.BadZipFile, zlib.error, lzma.LZMAError, struct.error, EOFError),
+    *(zipfile.BadZipFile, zipfile.LargeZipFile, zlib.error, lzma.LZMAError, struct.error, EOFError),
     *(RuntimeError, ValueError, OverflowError, MemoryError, OSError),
 )
 # The fields that every header has, and those of every record in the directory.

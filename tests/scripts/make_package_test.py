@@ -10,6 +10,7 @@ import sys
 import tempfile
 import time
 import unittest
+import zlib
 
 SCRIPTS = pathlib.Path(__file__).parents[2] / "scripts"
 sys.path.append(str(SCRIPTS))
@@ -21,6 +22,7 @@ MAKE_PACKAGE = SCRIPTS / "make-package.sh"
 CLIENT_UI = "Contents/MacOS/corvimo-ui"
 INFO = "Contents/Resources/INFO"
 NUMBERS = "Contents/Resources/numbers"
+UI_CHECKSUM = "".join(rf"\x{byte:02x}" for byte in zlib.crc32(b"ui\n").to_bytes(4, "little"))
 
 # Makes a client in the current folder, for its owner alone; a package gives it to everybody.
 CLIENT = r"""
@@ -125,6 +127,12 @@ class MakePackageTest(unittest.TestCase):
             (verify, "ln -sfn Z Contents/Resources/Current", "Current: another link target"),
             # A name is first in front of its entry's data, and again in the directory.
             (verify, 'sed -i 0,/numbers/s//NUMBERS/ "$PACKAGE"', f"{NUMBERS}: damaged (the header"),
+            (
+                verify,
+                rf'LC_ALL=C sed -i "s/{UI_CHECKSUM}/AAAA/g" "$PACKAGE"',
+                f"{CLIENT_UI}: damaged (its ch",
+            ),
+            (verify, 'echo >>"$PACKAGE"', "its end is damaged"),
             (verify, 'sed -i s:/INFO:/LAST:g "$PACKAGE"', f"the last entry is not {INFO}"),
             (show, 'sed -i s:/INFO:/LAST:g "$PACKAGE"', f"the last entry is not {INFO}"),
             (verify, 'truncate -s 99 "$PACKAGE"', f"'{self.package}' is no whole zip archive"),
@@ -206,10 +214,13 @@ class MakePackageTest(unittest.TestCase):
         self.run_script(self.client, "", status=2, cwd=self.folder)
 
     def test_warns_of_links_that_lead_out(self):
-        self.change("ln -s /usr absolute && ln -s ../.. Contents/out && ln -s .. Contents/in")
+        self.change(
+            "ln -s /usr absolute && ln -s .. Contents/in && ln -s Contents/in/../.. resolved"
+        )
+        self.change('ln -s "../${PWD##*/}/Contents" written')
         told = self.run_script(self.client, self.out)
         names = [line.split("'")[1] for line in told.splitlines() if "warning" in line]
-        self.assertEqual(["Contents/out", "absolute"], names)
+        self.assertEqual(["absolute", "resolved", "written"], names)
 
     def test_lists_dependencies_for_make(self):
         rule = self.folder / "rule.d"
