@@ -187,7 +187,8 @@ class MakePackageTest(unittest.TestCase):
         ):
             self.assertEqual(build, version_file.build_version(info.encode()), info)
 
-    def test_an_interruption_leaves_nothing_half_written(self):
+    def test_an_interruption_leaves_the_former_package(self):
+        former = self.make()
         self.change("truncate -s 99G Contents/endless")
         for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
             command = [MAKE_PACKAGE, self.client, self.out]
@@ -198,7 +199,10 @@ class MakePackageTest(unittest.TestCase):
                 told = process.stderr.read()
             self.assertRegex(told, rf"^make-package\.sh: interrupted by {number.name}.*\n$")
             self.assertEqual(128 + number, process.returncode)
-            self.assertEqual(["package"], [path.name for path in self.out.rglob("*")])
+            self.assertEqual(former, self.package.read_bytes())
+            self.assertEqual(
+                {"INFO", "lumaport.cpk", "package"}, {p.name for p in self.out.rglob("*")}
+            )
 
     def test_ends_with_what_its_output_allows(self):
         self.make()
