@@ -146,7 +146,7 @@ def verify(package, folder):
     for fault in faults:
         print(printable(f"{package}: {fault}"), file=sys.stderr)
     counts = f"{len(client.entries)} entries expected, {len(faults)} faults{client.summary()}"
-    print(f"{printable(package)}: {counts}")
+    print(f"{printable(package)}: {counts}{'; write it anew' if faults else ''}")
     return 1 if faults else 0
 
 

@@ -5,11 +5,11 @@ end repeats the headers. The launcher reads both, so both are compared.
 """
 
 import contextlib
+import io
 import lzma
 import os
 import stat
 import struct
-import tempfile
 import zipfile
 import zlib
 
@@ -119,6 +119,8 @@ def unpacked(stream, record):
             yield inflater.decompress(chunk, CHUNK)
             chunk = inflater.unconsumed_tail
         yield chunk
+    if is_deflated:
+        yield from iter(lambda: inflater.decompress(b"", CHUNK), b"")
     if is_deflated and (not inflater.eof or inflater.unused_data):
         raise EOFError("its data ends elsewhere")
 
@@ -172,14 +174,27 @@ def entry_fault(stream, found, record, entry):
     return fault
 
 
+class EndOfFile(io.BytesIO):
+    """The bytes of a file from a position on."""
+
+    def __init__(self, position):
+        super().__init__()
+        self.position = position
+
+    def tell(self):
+        return self.position + super().tell()
+
+    def seek(self, offset, whence=io.SEEK_SET):
+        start = self.position if whence == io.SEEK_SET else 0
+        return self.position + super().seek(offset - start, whence)
+
+
 def directory(records, position):
     """Returns the end of a package, whose entries take the bytes up to a position."""
-    with tempfile.TemporaryFile() as stream:
-        stream.seek(position)
-        with zipfile.ZipFile(stream, "w") as archive:
-            archive.infolist().extend(records)
-        stream.seek(position)
-        return stream.read()
+    stream = EndOfFile(position)
+    with zipfile.ZipFile(stream, "w") as archive:
+        archive.infolist().extend(records)
+    return stream.getvalue()
 
 
 def directory_fault(expected, found, records):
@@ -192,7 +207,7 @@ def directory_fault(expected, found, records):
             field = differing_field(RECORD_FIELDS, expected[start:end], found[start:end])
             return f"{record.filename}: damaged (its record in the directory has another {field})"
         start = end
-    return None if expected == found else "its end is damaged; write it anew"
+    return None if expected == found else "its end is damaged"
 
 
 def layout_fault(stream, records):
