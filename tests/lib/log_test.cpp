@@ -44,12 +44,12 @@ std::string Texts(const std::string& path) {
     return Unstamped(ReadFile(path));
 }
 
-/// Logs before and after `main`, if the environment asks for it.
+/// Logs at its end and, if wanted, at its beginning, if the environment asks for it.
 struct AroundMain {
-    AroundMain() { is_asked ? Log("begin") : void(); }
+    explicit AroundMain(bool logs_begin) { is_asked&& logs_begin ? Log("begin") : void(); }
     ~AroundMain() { is_asked ? Log("end") : void(); }
     const bool is_asked = std::getenv("CORVIMO_LOG_AROUND_MAIN") != nullptr;
-} around_main;
+} before_any_record(false), around_main(true);
 
 class LoggerTest : public testing::Test {
 protected:
@@ -66,7 +66,7 @@ protected:
 
 using LogSoak = LoggerTest;
 
-// The static objects are made before and after the logger's own, as in either order of linking.
+// The static objects are made before and after the logger's state, as in either order of linking.
 TEST(LoggerDeathTest, StaticObjectLogsToStandardErrorBeforeAndAfterMain) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");  // Starts the program anew.
     setenv("CORVIMO_LOG_AROUND_MAIN", "1", 1);
@@ -74,11 +74,11 @@ TEST(LoggerDeathTest, StaticObjectLogsToStandardErrorBeforeAndAfterMain) {
         LOG_MSG(WARNING, "wanted");
         LOG_MSG(DEBUG, "unwanted");
         Logger::Initialize(Logger::TYPE_STDERR, "", "", 1, Logger::SCOPE_NONE);
-        static const AroundMain late;
+        static const AroundMain late(true);
         exit(0);
     };
     EXPECT_EXIT(end(), testing::ExitedWithCode(0),
-                "^.{20}begin.*: wanted\n.{20}begin.{20}end.{20}end$");
+                "^.{20}begin.*: wanted\n.{20}begin.{20}end.{20}end.{20}end$");
     unsetenv("CORVIMO_LOG_AROUND_MAIN");
 }
 
