@@ -40,10 +40,6 @@ std::string Unstamped(const std::string& records) {
     return std::regex_replace(records, std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d )"), "");
 }
 
-std::string Texts(const std::string& path) {
-    return Unstamped(ReadFile(path));
-}
-
 /// Logs at its end and, if wanted, at its beginning, if the environment asks for it.
 struct AroundMain {
     explicit AroundMain(bool logs_begin) { is_asked&& logs_begin ? Log("begin") : void(); }
@@ -79,7 +75,6 @@ TEST(LoggerDeathTest, StaticObjectLogsToStandardErrorBeforeAndAfterMain) {
     };
     EXPECT_EXIT(end(), testing::ExitedWithCode(0),
                 "^.{20}begin.*: wanted\n.{20}begin.{20}end.{20}end.{20}end$");
-    unsetenv("CORVIMO_LOG_AROUND_MAIN");
 }
 
 // The thresholds outlive a configuration, so each row has a component of its own.
@@ -94,7 +89,7 @@ TEST_F(LoggerTest, ComponentNamedInTheLevelsFileLogsUpToItsLevel) {
         EXPECT_EQ(Logger::GetCompLevel(component), threshold) << levels;
     }
     Logger::LogMsg(Logger::LEVEL_ERROR, "t5", "silenced");
-    EXPECT_EQ(Texts(path), "");
+    EXPECT_EQ(Unstamped(ReadFile(path)), "");
 }
 
 TEST_F(LoggerTest, RecordInAFileHasPrefixAndLocalTimeForTheUserAlone) {
@@ -105,7 +100,8 @@ TEST_F(LoggerTest, RecordInAFileHasPrefixAndLocalTimeForTheUserAlone) {
     LOG_MSG_AT(7, NOTE, "unwanted %d", ++evaluated);
     EXPECT_EQ(evaluated, 1);
     const std::regex id("\\( *" + std::to_string(getpid()) + ": *\\d{1,5}\\)");
-    EXPECT_EQ(std::regex_replace(Texts(path), id, "ID"), "ID [ERROR] log_test(5): two 1\n");
+    EXPECT_EQ(std::regex_replace(Unstamped(ReadFile(path)), id, "ID"),
+              "ID [ERROR] log_test(5): two 1\n");
     struct tm stamp = {};
     ASSERT_NE(strptime(ReadFile(path).c_str(), "%Y-%m-%dT%H:%M:%S ", &stamp), nullptr);
     EXPECT_LE(std::abs(timegm(&stamp) - 20700 - time(nullptr)), 60);  // 5 hours 45 minutes.
@@ -148,7 +144,7 @@ TEST_F(LoggerTest, RecordCutByAFailedWriteIsEndedBeforeTheNextOne) {
             LogTo(path);
         }
         Log("next\n");
-        EXPECT_EQ(Texts(path), whole + "cut\nnext\n");
+        EXPECT_EQ(Unstamped(ReadFile(path)), whole + "cut\nnext\n");
     }
 }
 
@@ -162,7 +158,7 @@ TEST_F(LoggerTest, RepeatedRotationKeepsTheNewestFiles) {
         }
         EXPECT_EQ(NamesIn(own.path()).size(), kept + 1U) << rotate_count;
         for (unsigned i = 0; i < kept; ++i) {
-            EXPECT_EQ(Texts(own / "log_" + std::to_string(i)), std::to_string(4 - i));
+            EXPECT_EQ(Unstamped(ReadFile(own / "log_" + std::to_string(i))), std::to_string(4 - i));
         }
     }
 }
@@ -181,7 +177,8 @@ TEST_F(LoggerTest, FailedInitializeOrRotationSilencesTheLoggerUntilInitialize) {
     EXPECT_EQ(LogTo(folder / "new"), 0);
     EXPECT_EQ(Logger::PrintToFilePointer("kept\n"), kTimestampBytes + 5);
     EXPECT_EQ(Logger::GetFileSize("/none"), 0);
-    EXPECT_EQ(Texts(folder / "new"), "kept\nstat(/none): No such file or directory (2)\n");
+    EXPECT_EQ(Unstamped(ReadFile(folder / "new")),
+              "kept\nstat(/none): No such file or directory (2)\n");
 }
 
 TEST_F(LoggerTest, StreamReadToItsEndIsLoggedToEachOutputWithTheErrorIfAsked) {
@@ -222,7 +219,7 @@ TEST_F(LogSoak, RecordsOfManyThreadsAreWholeAndAChildFindsTheLockFree) {
         if (fork() == 0) {
             alarm(60);
             Logger::Lock();  // As every record of the child would.
-            _exit(Logger::ProcessId() != getpid());
+            _exit(Logger::ProcessId() == getpid() ? 0 : 1);
         }
         EXPECT_GT(wait(&status), 0);
     }
