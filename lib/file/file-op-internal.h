@@ -1,35 +1,51 @@
-// What the sources of the file operations share.
+// What the sources of the file operations share. It is not installed.
 #pragma once
 
 #include <dirent.h>
-#include <sys/stat.h>
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "lib/file/file-op.h"
 #include "lib/log.h"
-#include "lib/platform/unique_fd.h"
 
 #define LOG_SOURCE "file-op"
 
+namespace file_op {
+
 inline const std::string kLogComponent = "file_op_debug";
 
-/// The system's text for an errno value.
-std::string ErrorText(int error);
+/// The sources that log. All of them use the same source name, so each one adds its own thousand to
+/// its line numbers: "file-op(3042)" is line 42 of folders.cpp. Append new sources at the end.
+inline constexpr std::string_view kSources[] = {
+    "objects.cpp",             // 1000
+    "copy-move.cpp",           // 2000
+    "folders.cpp",             // 3000
+    "listing.cpp",             // 4000
+    "links-owners-times.cpp",  // 5000
+    "remove.cpp",              // 6000
+    "volumes.cpp",             // 7000
+};
+constexpr int kLinesPerSource = 1000;
 
-/// `GetFileInfo` for an entry of a folder whose stored path is known. That gives the entry's, with its
-/// name as the folder lists it, without another question to the system.
-int GetEntryInfo(const std::string& path, const std::string& stored_folder, _FILE_INFO_tag& info);
+/// Returns the number that stands for a line in records. Returns 0 if the source is not in the
+/// table, or if it is too long for the numbers of its lines to be its own.
+constexpr int RecordLine(std::string_view file, int line) {
+    const std::string_view name = file.substr(file.rfind('/') + 1);
+    int base = 0;
+    for (const std::string_view source : kSources) {
+        base += kLinesPerSource;
+        if (source == name) {
+            return line < kLinesPerSource ? base + line : 0;
+        }
+    }
+    return 0;
+}
 
-/// Opens a file, close-on-exec, again after an interruption. None with errno set on failure.
-UniqueFd OpenFile(const std::string& path, int flags, mode_t mode = 0);
+static_assert(RecordLine("lib/file/folders.cpp", 42) == 3042);
 
-/// Whether the path leads to a folder, links followed.
-bool IsFolder(const std::string& path);
-
-/// Whether the name of an entry means its folder itself or the folder above.
+/// Returns whether the name of a directory entry means its folder itself or the parent folder.
 bool IsDotOrDotDot(const char* name);
 
 struct CloseFolder {
@@ -37,12 +53,26 @@ struct CloseFolder {
 };
 using UniqueDir = std::unique_ptr<DIR, CloseFolder>;
 
-/// Opens a folder as a stream, again after an interruption. Null with errno set on failure.
+/// Opens a folder as a stream, and tries again when a signal interrupts that. Returns null with
+/// errno set on failure.
 UniqueDir OpenFolder(const std::string& path);
 
-/// Appends the names in a folder, "." and ".." left out, in the system's order. False when it cannot be
-/// opened. A read error ends the names early; the system does not tell it apart.
+/// Appends the names of the entries of a folder, without "." and "..", in the system's order.
+/// Returns false if the folder cannot be opened. A read error ends the names early and is not
+/// reported.
 ///
-/// All names are read before the caller touches an entry: some systems skip entries of a folder that
-/// changes under the reader, and a caller that descends thousands of levels keeps no descriptor open.
+/// All names are read before the caller touches an entry, for two reasons. Some file systems skip
+/// entries of a folder that changes during its listing. And a caller that descends thousands of
+/// levels keeps no descriptor open.
 bool ReadNames(const std::string& folder, std::vector<std::string>& names);
+
+}  // namespace file_op
+
+/// Writes a record like LOG_MSG, with the number that file_op::RecordLine gives to the line.
+#define LOG_FILE_OP(level, ...)                                                                  \
+    do {                                                                                         \
+        using file_op::kLogComponent;                                                            \
+        constexpr int kRecordLine = file_op::RecordLine(__FILE__, __LINE__);                     \
+        static_assert(kRecordLine > 0, "kSources lacks this source, or the source is too long"); \
+        LOG_RECORD(kRecordLine, Logger::LEVEL_##level, #level, __VA_ARGS__, "");                 \
+    } while (false)

@@ -1,17 +1,24 @@
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <cerrno>
 #include <utility>
 
 #include "lib/file/file-op-internal.h"
 #include "lib/file/file-op.h"
+#include "lib/platform/error_text.h"
 
 namespace {
 
 constexpr mode_t kFolderMode = 0777;
 
-// Creates one folder; success also when somebody else has created it first. errno tells the
-// failure.
+bool IsFolder(const std::string& path) {
+    struct stat status;
+    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// Creates one folder. Returns true also if another program has created the folder first. Returns
+// false with errno set on failure.
 bool CreateFolder(const std::string& path) {
     if (mkdir(path.c_str(), kFolderMode) == 0) {
         return true;
@@ -25,13 +32,14 @@ bool CreateFolder(const std::string& path) {
 }
 
 int ReportUncreatedFolder(const std::string& path, int error) {
-    LOG_MSG(ERROR, "path = %s errno : %s", path.c_str(), ErrorText(error).c_str());
+    LOG_FILE_OP(ERROR, "path = %s errno : %s", path.c_str(), PlatformErrorText(error).c_str());
     errno = error;
     return -2;
 }
 
-// Sees to it that one level is there on the way down. False with errno set when the way ends.
-bool PassLevel(const std::string& prefix, bool is_last) {
+// Creates one level of a path if it is missing. Returns false with errno set if it cannot be
+// created, or if the last level is not a folder.
+bool EnsureLevel(const std::string& prefix, bool is_last) {
     struct stat status;
     if (stat(prefix.c_str(), &status) != 0) {
         return CreateFolder(prefix);
@@ -40,18 +48,18 @@ bool PassLevel(const std::string& prefix, bool is_last) {
         return true;
     }
     if (is_last) {
-        LOG_MSG(INFO, "FSMKDirP: path: %s is existing file or symbolic link pointed to file",
-                prefix.c_str());
+        LOG_FILE_OP(INFO, "FSMKDirP: path: %s is existing file or symbolic link pointed to file",
+                    prefix.c_str());
         errno = EEXIST;
         return false;
     }
-    // Passed for now: creating the next level below it fails, and with the right error.
-    LOG_MSG(INFO, "FSMKDirP: path: %s is symbolic link pointed to folder", prefix.c_str());
+    // Not an error yet: creating the next level fails, and with the error number to report.
+    LOG_FILE_OP(INFO, "FSMKDirP: path: %s is symbolic link pointed to folder", prefix.c_str());
     return true;
 }
 
 int FSMKDirP(const std::string& path) {
-    // Mostly only the last level is missing. Whatever else is wrong shows on the way down.
+    // Usually only the last level is missing. The loop handles every other case.
     if (mkdir(path.c_str(), kFolderMode) == 0) {
         return 0;
     }
@@ -60,7 +68,7 @@ int FSMKDirP(const std::string& path) {
     while (!is_last) {
         end = path.find('/', end);
         is_last = end == std::string::npos || end + 1 == path.size();
-        if (!PassLevel(path.substr(0, end), is_last)) {
+        if (!EnsureLevel(path.substr(0, end), is_last)) {
             return ReportUncreatedFolder(path, errno);
         }
         ++end;
@@ -68,7 +76,8 @@ int FSMKDirP(const std::string& path) {
     return 0;
 }
 
-// Appends the paths of the entries, if the object is a folder.
+// Gives the owner of a folder all rights, and appends the paths of the folder's entries to `entries`.
+// Does nothing to any other object. Returns 0 or -1.
 int MakeFolderWritable(const std::string& path, std::vector<std::string>& entries) {
     struct stat status;
     if (lstat(path.c_str(), &status) != 0) {
@@ -81,7 +90,7 @@ int MakeFolderWritable(const std::string& path, std::vector<std::string>& entrie
     std::vector<std::string> names;
     if ((!is_writable && fchmodat(AT_FDCWD, path.c_str(), (status.st_mode & 07777) | S_IRWXU,
                                   AT_SYMLINK_NOFOLLOW) != 0) ||
-        !ReadNames(path, names)) {
+        !file_op::ReadNames(path, names)) {
         return -1;
     }
     for (const std::string& name : names) {
@@ -98,15 +107,16 @@ int FSMKDir(const std::string& path, bool recursive) {
     }
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'", path.c_str());
+        LOG_FILE_OP(ERROR, "FSMKDir: Failed to to file info '%s'", path.c_str());
         return -1;
     }
     if (info.exists) {
         if (info.type == FILE_TYPE_DIR) {
             return 0;
         }
-        LOG_MSG(ERROR, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)",
-                path.c_str(), static_cast<int>(info.type));
+        LOG_FILE_OP(ERROR,
+                    "FSMKDir: Create a folder but local file system is not directory '%s' (%d)",
+                    path.c_str(), static_cast<int>(info.type));
         return -1;
     }
     if (recursive) {
@@ -117,20 +127,20 @@ int FSMKDir(const std::string& path, bool recursive) {
 
 int FSMKDirFromRoot(const std::string& target, const std::string& root) {
     if (root.size() > target.size()) {
-        LOG_MSG(ERROR, "Giving a root '%s' whose length is larger then target's '%s'.",
-                root.c_str(), target.c_str());
+        LOG_FILE_OP(ERROR, "Giving a root '%s' whose length is larger then target's '%s'.",
+                    root.c_str(), target.c_str());
         return -1;
     }
     if (!FSIsParentFolder(root, target)) {
-        LOG_MSG(ERROR, "root '%s' is not a parent folder of target '%s'", root.c_str(),
-                target.c_str());
+        LOG_FILE_OP(ERROR, "root '%s' is not a parent folder of target '%s'", root.c_str(),
+                    target.c_str());
         return -1;
     }
     const std::string rest = target.substr(root.size());
     std::string done;
     while (done != rest) {
         done = rest.substr(0, rest.find('/', done.size() + 1));
-        LOG_MSG(DEBUG, "FSMKDirFromRoot: create %s", done.c_str());
+        LOG_FILE_OP(DEBUG, "FSMKDirFromRoot: create %s", done.c_str());
         if (FSMKDir(root + done, false) < 0) {
             return -1;
         }

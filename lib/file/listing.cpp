@@ -2,6 +2,7 @@
 
 #include "lib/file/file-op-internal.h"
 #include "lib/file/file-op.h"
+#include "lib/platform/error_text.h"
 
 namespace {
 
@@ -30,11 +31,11 @@ uint32_t TypeOfEntry(unsigned char type) {
 }  // namespace
 
 int FSOpenDir(const std::string& path, int options, DIR_HANDLE& handle) {
-    UniqueDir stream = OpenFolder(path);
+    file_op::UniqueDir stream = file_op::OpenFolder(path);
     if (stream == nullptr) {
         const int error = errno;
-        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s", path.c_str(),
-                ErrorText(error).c_str());
+        LOG_FILE_OP(ERROR, "FSOpenDir: Failed to open directory '%s'. %s", path.c_str(),
+                    PlatformErrorText(error).c_str());
         return -1;
     }
     handle.dir = stream.release();
@@ -55,7 +56,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry) {
     if ((handle.options & kWithTimesAndSizes) != 0) {
         const std::string path = handle.path + "/" + listed->d_name;
         if (IsFileExist(path, true) && GetFileInfo(path, info) < 0) {
-            LOG_MSG(ERROR, "FSOpenDir: Failed to get info for '%s'", path.c_str());
+            LOG_FILE_OP(ERROR, "FSOpenDir: Failed to get info for '%s'", path.c_str());
             return -1;
         }
     }

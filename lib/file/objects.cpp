@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <cerrno>
 #include <tuple>
 #include <utility>
@@ -50,49 +52,6 @@ std::string Composed(const std::string& path) {
     return StringHelper::Normalize(path, StringHelper::NFC);
 }
 
-// The stored path of an entry of a folder, from the folder's. Returns 0 or an error number.
-int StoredPathIn(const std::string& stored_folder, const std::string& name, std::string& stored) {
-    std::string joined = (stored_folder == "/" ? "" : stored_folder) + "/" + name;
-    if (joined.size() >= kStoredPathCapacity) {
-        return ENAMETOOLONG;
-    }
-    stored = std::move(joined);
-    return 0;
-}
-
-// `find_stored_path` takes a string to fill and returns 0 or an error number.
-template <typename FindStoredPath>
-int Inspect(const std::string& path, FindStoredPath find_stored_path, _FILE_INFO_tag& info) {
-    struct stat status;
-    if (lstat(path.c_str(), &status) != 0) {
-        if (errno != ENOENT) {
-            return -1;
-        }
-        info = {};
-        SetPath(path, info);
-        return 0;
-    }
-    FillFromStatus(status, info);
-    const uint32_t type = TypeOfMode(status.st_mode);
-    if (type == FILE_TYPE_UNKNOWN) {
-        SetPath(path, info);
-        return -1;
-    }
-    info.type = type;
-
-    LOG_MSG(DEBUG, "Input file path = [%s].", path.c_str());
-    std::string stored;
-    const int error = find_stored_path(stored);
-    if (error != 0) {
-        LOG_MSG(ERROR, "FSPathMakeRef: %d", error);
-        SetPath(path, info);
-        return -1;
-    }
-    LOG_MSG(DEBUG, "FSRefMakePath outTargetPath path = [%s].", stored.c_str());
-    SetPath(stored, info);
-    return 0;
-}
-
 }  // namespace
 
 bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
@@ -105,16 +64,34 @@ bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
 }
 
 int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
-    return Inspect(
-        path, [&path](std::string& stored) { return PlatformStoredPath(path, false, stored); },
-        info);
-}
+    struct stat status;
+    if (lstat(path.c_str(), &status) != 0) {
+        if (errno != ENOENT) {
+            return -1;
+        }
+        _FILE_INFO_tag missing;
+        SetPath(path, missing);  // `path` may be a field of `info`.
+        info = std::move(missing);
+        return 0;
+    }
+    FillFromStatus(status, info);
+    SetPath(path, info);
+    const uint32_t type = TypeOfMode(status.st_mode);
+    if (type == FILE_TYPE_UNKNOWN) {
+        return -1;
+    }
+    info.type = type;
 
-int GetEntryInfo(const std::string& path, const std::string& stored_folder, _FILE_INFO_tag& info) {
-    return Inspect(
-        path,
-        [&](std::string& stored) { return StoredPathIn(stored_folder, FSBaseName(path), stored); },
-        info);
+    LOG_FILE_OP(DEBUG, "Input file path = [%s].", path.c_str());
+    std::string stored;
+    const int error = PlatformStoredPath(path, false, stored);
+    if (error != 0) {
+        LOG_FILE_OP(ERROR, "FSPathMakeRef: %d", error);
+        return -1;
+    }
+    LOG_FILE_OP(DEBUG, "FSRefMakePath outTargetPath path = [%s].", stored.c_str());
+    SetPath(stored, info);
+    return 0;
 }
 
 bool IsFileExist(const std::string& path, bool exact) {

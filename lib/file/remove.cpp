@@ -1,26 +1,35 @@
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstddef>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "lib/file/file-op-internal.h"
 #include "lib/file/file-op.h"
+#include "lib/platform/open_file.h"
 #include "lib/platform/retry.h"
+#include "lib/platform/unique_fd.h"
+
+using file_op::UniqueDir;
 
 namespace {
 
-// How many folders of a tree are open at a time. The folder above the tree, and a folder that is about to
-// be entered or to be opened again, come on top. A process has 256 descriptors by default on macOS.
+// The largest number of listed folders that are open at a time. Three more descriptors are open at
+// most: for the folder above the tree, and while a folder is opened. On macOS a process has 256
+// descriptors by default.
 constexpr std::size_t kMaxOpenFolders = 16;
 
-// How often a folder is listed at most. Some file systems skip entries while others are removed, so a
-// folder that is not empty after its listing is listed again. The limit ends the removal of a folder in
-// which another program keeps creating files.
+// The largest number of times that a folder is listed. Some file systems skip entries while others
+// are removed, so a folder that is not empty after its listing is listed again. Without the limit,
+// another program that keeps creating files in the folder would keep the removal busy.
 constexpr int kMaxListings = 20;
 
-// Tells a folder from every other one, whatever its path.
+// Identifies a folder independently of its path.
 struct FolderId {
     dev_t device;
     ino_t inode;
@@ -35,7 +44,7 @@ struct OpenedFolder {
     FolderId id{};
 };
 
-// Opens a folder without following a link. The stream is null on failure.
+// Opens a folder without following a symbolic link. The stream is null on failure.
 OpenedFolder OpenFolderAt(int parent, const char* name) {
     OpenedFolder folder;
     const int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
@@ -57,7 +66,8 @@ struct Location {
     std::string name;
 };
 
-// Splits a path. Separators at its end stay with the name, because they ask for a link to be followed.
+// Splits a path. Separators at its end stay with the name, because the system follows a symbolic
+// link whose name is followed by a separator.
 Location LocationOf(const std::string& path) {
     const std::size_t end = path.find_last_not_of('/');
     const std::size_t separator = end == std::string::npos ? end : path.rfind('/', end);
@@ -69,29 +79,30 @@ Location LocationOf(const std::string& path) {
 
 // Removes one folder and everything below it.
 //
-// Each folder is opened without following a link, and its entries are removed through its descriptor. So
-// a folder that another program replaces by a link meanwhile leads nowhere, and paths may be longer than
-// the system takes them.
+// Opens each folder without following a symbolic link, and removes its entries relative to its
+// descriptor. So if another program replaces a folder by a symbolic link, nothing behind that link
+// is removed. And the tree may be so deep that its paths are longer than the system accepts.
 class TreeRemoval {
 public:
-    // The stored path serves the log records only.
+    // Refers to both paths. The stored path is only for the records in the log.
     TreeRemoval(const std::string& path, const std::string& stored_path)
         : path_(path), stored_path_(stored_path) {}
 
-    // Returns 0, also when the folder cannot be opened, and -3 after the first failure.
+    // Returns 0 on success, also if the folder cannot be opened, and -3 after the first failure.
     int Run() {
         Location location = LocationOf(path_);
-        const int flags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-        above_ = OpenFile(location.folder, flags);
+        above_ = PlatformOpenFile(location.folder, O_RDONLY | O_DIRECTORY);
         if (!above_.IsOpen()) {
-            location.name = path_;  // A folder may allow to be searched but not to be read.
+            // The user may search that folder, but not read it. The path still leads through it.
+            location.name = path_;
         }
         if (!Enter(location.name.c_str())) {
             return -3;
         }
         while (!levels_.empty()) {
             const dirent* const entry = readdir(levels_.back().stream.get());
-            if (!(entry != nullptr ? RemoveEntry(*entry) : FinishListing())) {
+            const bool can_go_on = entry != nullptr ? RemoveEntry(*entry) : FinishListing();
+            if (!can_go_on) {
                 return -3;
             }
         }
@@ -99,13 +110,13 @@ public:
     }
 
 private:
-    // A folder between the top of the tree and the folder that is being listed.
+    // The folder that is being listed, or a folder above it in the tree.
     struct Level {
         std::string name;
         FolderId id;
         UniqueDir stream;  // Null while the folder is closed to save a descriptor.
         int listings = 1;
-        bool has_removed = false;  // In the current listing.
+        bool has_removed = false;  // Whether the current listing has removed an entry.
     };
 
     int DescriptorOf(std::size_t level) const { return dirfd(levels_[level].stream.get()); }
@@ -118,8 +129,8 @@ private:
         return above_.IsOpen() ? above_.Get() : AT_FDCWD;
     }
 
-    // Makes a folder the innermost level. Leaves it in place when it cannot be opened; the folder that
-    // holds it is then not empty. Returns false for a folder on another volume.
+    // Makes a folder the innermost level. Leaves it alone if it cannot be opened; its parent then
+    // cannot be removed either. Returns false if it is on another volume than the tree.
     bool Enter(const char* name) {
         OpenedFolder folder = OpenFolderAt(DescriptorAbove(levels_.size()), name);
         if (folder.stream == nullptr) {
@@ -135,8 +146,10 @@ private:
         return true;
     }
 
+    // Removes an entry of the innermost folder, or enters it if it is a folder. Returns false on
+    // failure.
     bool RemoveEntry(const dirent& entry) {
-        if (IsDotOrDotDot(entry.d_name)) {
+        if (file_op::IsDotOrDotDot(entry.d_name)) {
             return true;
         }
         LogInspection(entry.d_name);
@@ -145,13 +158,13 @@ private:
             return Enter(entry.d_name);
         }
         if (unlinkat(folder, entry.d_name, 0) != 0) {
-            return errno == ENOENT;  // Another program was faster.
+            return errno == ENOENT;  // Another program has removed it.
         }
         levels_.back().has_removed = true;
         return true;
     }
 
-    // Not every volume tells the type in a listing.
+    // Returns whether an entry is a folder. Some file systems do not give the type in a listing.
     static bool IsFolderAt(int folder, const dirent& entry) {
         struct stat status;
         return entry.d_type == DT_DIR ||
@@ -160,7 +173,8 @@ private:
                 S_ISDIR(status.st_mode));
     }
 
-    // Removes the innermost folder after its listing, or lists it once more.
+    // Removes the innermost folder after its listing, or begins to list it again. Returns false on
+    // failure.
     bool FinishListing() {
         Level& level = levels_.back();
         if (!OpenParentAgain()) {
@@ -178,6 +192,7 @@ private:
         return true;
     }
 
+    // Begins to list a folder again. Returns false if that would not help.
     static bool ListAgain(Level& level) {
         if (!level.has_removed || level.listings >= kMaxListings) {
             return false;
@@ -188,8 +203,9 @@ private:
         return true;
     }
 
-    // Opens the parent of the innermost folder, if it was closed, from below. Its listing begins anew.
-    // Returns false when the folder has been moved to another parent meanwhile.
+    // Opens the parent of the innermost folder again if it was closed, by the entry "..". The listing
+    // of the parent then begins anew. Returns false if another program has moved the innermost folder
+    // to another parent, or if the parent cannot be opened.
     bool OpenParentAgain() {
         if (levels_.size() < 2 || levels_[levels_.size() - 2].stream != nullptr) {
             return true;
@@ -203,13 +219,14 @@ private:
         return true;
     }
 
-    // Writes the records of GetFileInfo for an entry of the innermost folder.
+    // Writes the two records that GetFileInfo would write about an entry of the innermost folder.
     void LogInspection(const char* name) const {
-        LOG_MSG(DEBUG, "Input file path = [%s].", (path_ + PathBelowTop(name)).c_str());
-        LOG_MSG(DEBUG, "FSRefMakePath outTargetPath path = [%s].",
-                (stored_path_ + PathBelowTop(name)).c_str());
+        LOG_FILE_OP(DEBUG, "Input file path = [%s].", (path_ + PathBelowTop(name)).c_str());
+        LOG_FILE_OP(DEBUG, "FSRefMakePath outTargetPath path = [%s].",
+                    (stored_path_ + PathBelowTop(name)).c_str());
     }
 
+    // Returns the path of an entry of the innermost folder, relative to the top of the tree.
     std::string PathBelowTop(const char* name) const {
         std::string path;
         for (std::size_t i = 1; i < levels_.size(); ++i) {

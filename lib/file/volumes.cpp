@@ -2,18 +2,19 @@
 
 #include "lib/file/file-op-internal.h"
 #include "lib/file/file-op.h"
+#include "lib/platform/error_text.h"
 #include "lib/platform/platform.h"
 
 namespace {
 
-// The type of the volume that holds the path, or nothing after a failure, which is logged under the
-// name that the test goes by in the log.
+// Returns the type of the volume that holds a path, or "" after a failure. `test` is the name of the
+// calling function in the record of the failure.
 std::string TypeOfVolume(const std::string& path, const char* test) {
     std::string type;
     if (PlatformFileSystemType(path, type) != 0) {
         const int error = errno;
-        LOG_MSG(ERROR, "%s: Failed to get file system info '%s'. %s", test, path.c_str(),
-                ErrorText(error).c_str());
+        LOG_FILE_OP(ERROR, "%s: Failed to get file system info '%s'. %s", test, path.c_str(),
+                    PlatformErrorText(error).c_str());
     }
     return type;
 }
@@ -29,6 +30,6 @@ bool IsMSDOS(const std::string& path) {
     if (TypeOfVolume(path, "IsSupportLargeFile") != "msdos") {
         return false;
     }
-    LOG_MSG(WARNING, "Detect a MSDOS platform for path '%s'.", path.c_str());
+    LOG_FILE_OP(WARNING, "Detect a MSDOS platform for path '%s'.", path.c_str());
     return true;
 }
