@@ -76,8 +76,8 @@ int FSMKDirP(const std::string& path) {
     return 0;
 }
 
-// Gives the owner of a folder all rights, and appends the paths of the folder's entries to `entries`.
-// Does nothing to any other object. Returns 0 or -1.
+// Gives the owner of a folder all rights, and appends the paths of the folder's entries to
+// `entries`. Does nothing to any other object. Returns 0 or -1.
 int MakeFolderWritable(const std::string& path, std::vector<std::string>& entries) {
     struct stat status;
     if (lstat(path.c_str(), &status) != 0) {

@@ -19,9 +19,9 @@ using file_op::UniqueDir;
 
 namespace {
 
-// The largest number of listed folders that are open at a time. Three more descriptors are open at
-// most: for the folder above the tree, and while a folder is opened. On macOS a process has 256
-// descriptors by default.
+// The largest number of listed folders that are open at a time. Two more descriptors are open at
+// most: for the folder above the tree, and for a folder that is being entered. On macOS a process
+// has 256 descriptors by default.
 constexpr std::size_t kMaxOpenFolders = 16;
 
 // The largest number of times that a folder is listed. Some file systems skip entries while others
@@ -203,9 +203,9 @@ private:
         return true;
     }
 
-    // Opens the parent of the innermost folder again if it was closed, by the entry "..". The listing
-    // of the parent then begins anew. Returns false if another program has moved the innermost folder
-    // to another parent, or if the parent cannot be opened.
+    // Opens the parent of the innermost folder again if it was closed, by the entry "..". The
+    // listing of the parent then begins anew. Returns false if another program has moved the
+    // innermost folder to another parent, or if the parent cannot be opened.
     bool OpenParentAgain() {
         if (levels_.size() < 2 || levels_[levels_.size() - 2].stream != nullptr) {
             return true;

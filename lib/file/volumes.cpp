@@ -7,8 +7,8 @@
 
 namespace {
 
-// Returns the type of the volume that holds a path, or "" after a failure. `test` is the name of the
-// calling function in the record of the failure.
+// Returns the type of the volume that holds a path, or "" after a failure. `test` is the name of
+// the calling function in the record of the failure.
 std::string TypeOfVolume(const std::string& path, const char* test) {
     std::string type;
     if (PlatformFileSystemType(path, type) != 0) {

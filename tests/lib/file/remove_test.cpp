@@ -87,7 +87,7 @@ TEST(FSRemove, RemovesATreeDeeperThanAPathReachesWithFewDescriptors) {
     struct rlimit usual;
     ASSERT_EQ(0, getrlimit(RLIMIT_NOFILE, &usual));
     struct rlimit tight = usual;
-    tight.rlim_cur = static_cast<rlim_t>(first_free) + 20;
+    tight.rlim_cur = first_free + 18;
     ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &tight));
     EXPECT_EQ(0, FSRemove(dir / "tree", false));
     setrlimit(RLIMIT_NOFILE, &usual);
