@@ -9,14 +9,12 @@
 #include <string>
 #include <system_error>
 
-/// Makes a fresh, empty folder under the system's folder for temporary files and removes it with
-/// everything in it at the end. Links inside are removed, never followed. Throws when the folder
-/// cannot be made.
+/// Makes a fresh, empty folder in `parent` and removes it with everything in it at the end. Links
+/// inside are removed, never followed. Throws when the folder cannot be made.
 class TempDir {
 public:
-    TempDir()
-        : path_(std::filesystem::canonical(std::filesystem::temp_directory_path()) /
-                "corvimo-test-XXXXXX") {
+    explicit TempDir(const std::filesystem::path& parent = std::filesystem::temp_directory_path())
+        : path_(std::filesystem::canonical(parent) / "corvimo-test-XXXXXX") {
         if (mkdtemp(path_.data()) == nullptr) {
             throw std::system_error(errno, std::generic_category(), path_);
         }

@@ -1,20 +1,47 @@
+#include "lib/file/file-op.h"
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <filesystem>
 #include <map>
 #include <numeric>
 #include <tuple>
 
-#include "lib/file/file-op.h"
 #include "tests/support/captured_log.h"
 #include "tests/support/files.h"
 #include "tests/support/temp_dir.h"
 
 namespace fs = std::filesystem;
 
-TEST(FileTypes, AreToldByAListingAndByGetFileInfo) {
+static const std::string kError = "ERROR file-op: ";
+static const std::string kMissing = "No such file or directory";
+
+TEST(FileInfo, EqualityIgnoresOwnerModeAndDevice) {
+    const _FILE_INFO_tag info{"/a", "a", 1, 2, 3, true, 4, 5, 6, 7};
+    const _FILE_INFO_tag others[] = {{"/a", "a", 1, 2, 3, true}, {"/b", "a", 1, 2, 3, true},
+                                     {"/a", "b", 1, 2, 3, true}, {"/a", "a", 0, 2, 3, true},
+                                     {"/a", "a", 1, 0, 3, true}, {"/a", "a", 1, 2, 0, true},
+                                     {"/a", "a", 1, 2, 3}};
+    for (const _FILE_INFO_tag& other : others) {
+        EXPECT_EQ(&other == others, info == other) << &other - others;
+    }
+}
+
+TEST(Paths, AreSplitAndComparedByTheirText) {
+    const std::array<std::string, 3> rows[] = {
+        {"a", "/", "a"}, {"/a", "/", "a"}, {"/a/b", "/a", "b"}, {"/a/b/", "/a/b", ""}};
+    for (const auto& [path, parent, name] : rows) {
+        EXPECT_EQ(std::pair(parent, name), std::pair(FSParentPath(path), FSBaseName(path)));
+    }
+    EXPECT_TRUE(FSIsParentFolder("/a", "/a/b") && FSIsParentFolder("/a", "/a"));
+    EXPECT_FALSE(FSIsParentFolder("/a", "/ab") || FSIsParentFolder("/b", "/a/b") ||
+                 FSIsParentFolder("/a/b", "/a"));
+}
+
+TEST(FSReadDir, TellsTheTypesThatGetFileInfoTells) {
     const TempDir dir;
     WriteFile(dir / "file", "12345");
     fs::create_symlink("nowhere", dir / "link");
@@ -23,20 +50,26 @@ TEST(FileTypes, AreToldByAListingAndByGetFileInfo) {
     const std::map<std::string, uint32_t> types = {
         {".", FILE_TYPE_DIR},     {"..", FILE_TYPE_DIR},       {"fifo", FILE_TYPE_FIFO},
         {"link", FILE_TYPE_LINK}, {"file", FILE_TYPE_REGULAR}, {"socket", FILE_TYPE_SOCKET}};
-    DIR_HANDLE handle;
-    ASSERT_EQ(0, FSOpenDir(dir.path(), 1, handle));
-    std::map<std::string, uint32_t> listed;
-    for (DIR_ENTRY entry; FSReadDir(handle, entry) == 1; listed[entry.name] = entry.type) {
-        _FILE_INFO_tag info;
-        EXPECT_EQ(0, GetFileInfo(dir / entry.name, info));
-        EXPECT_EQ(info.type, entry.type) << entry.name;
-        EXPECT_TRUE(entry.name != "file" || entry.size == 5);
+    for (const int options : {0, 1}) {
+        DIR_HANDLE handle;
+        DIR_ENTRY entry;
+        ASSERT_EQ(0, FSOpenDir(dir.path(), options, handle));
+        std::map<std::string, uint32_t> listed;
+        for (; FSReadDir(handle, entry) == 1; listed[entry.name] = entry.type) {
+            _FILE_INFO_tag info;
+            EXPECT_EQ(0, GetFileInfo(dir / entry.name, info));
+            EXPECT_EQ(info.type, entry.type) << entry.name;
+            EXPECT_TRUE(entry.name != "file" || entry.size == options * 5);
+            EXPECT_TRUE(entry.name != "file" || entry.mtime == options * info.mtime);
+        }
+        EXPECT_EQ(types, listed);
+        FSCloseDir(handle);
+        FSCloseDir(handle);
+        EXPECT_EQ(std::pair(-1, std::string()), std::pair(FSReadDir(handle, entry), handle.path));
     }
-    FSCloseDir(handle);
-    EXPECT_EQ(types, listed);
 }
 
-TEST(IsFileExist, ExactAsksForTheStoredPath) {
+TEST(IsFileExist, OnAPathThatIsNotTheStoredOneDependsOnExact) {
     const TempDir dir;
     WriteDeep(dir / "folder/caf\xC3\xA9", "");
     fs::create_symlink("folder", dir / "link");
@@ -49,12 +82,19 @@ TEST(IsFileExist, ExactAsksForTheStoredPath) {
         {"", false, false},
     };
     for (const auto& [path, exists, exact] : rows) {
+        _FILE_INFO_tag info{"before", "", 1, 2, 3, true, 4, 5, 6, 7};
         EXPECT_EQ(exists, IsFileExist(path, false)) << path;
         EXPECT_EQ(exact, IsFileExist(path, true)) << path;
+        EXPECT_EQ(path.empty() ? -1 : 0, FSStat(path, info, true)) << path;
+        EXPECT_EQ(exact || path.empty(), info.exists) << path;
+        EXPECT_EQ(exact ? path : "before", info.path);
     }
+    _FILE_INFO_tag device;
+    EXPECT_EQ(0, GetFileInfo("/dev/null", device));
+    EXPECT_EQ(FILE_TYPE_DEVICE, device.type);
 }
 
-TEST(FSCopy, CopiesEveryLengthWithTheModeAskedFor) {
+TEST(FSCopy, OfEveryLengthGivesTheContentAndTheMode) {
     const TempDir dir;
     for (const std::size_t size : {100000U, 8193U, 8192U, 0U}) {  // Each over a longer one.
         std::string content(size, 'x');
@@ -68,13 +108,30 @@ TEST(FSCopy, CopiesEveryLengthWithTheModeAskedFor) {
     }
     EXPECT_EQ(fs::perms(0644), fs::status(dir / "plain").permissions());
     EXPECT_EQ(fs::perms(0750), fs::status(dir / "alike").permissions());
+    EXPECT_EQ(0, FSCopy(dir / "plain", dir / "moved", true, false));
+    EXPECT_EQ((std::vector<std::string>{"alike", "from", "moved"}), NamesIn(dir.path()));
 }
 
-TEST(FSRename, OnOneVolume) {
+TEST(FSCopy, AfterAFailureKeepsTheSourceAndLogsTheReason) {
+    const TempDir dir;
+    WriteFile(dir / "from", "content");
+    const CapturedLog log;
+    EXPECT_EQ(-2, FSCopy(dir / "from", "/dev/full", true, false));
+    EXPECT_EQ(-1, FSCopy(dir / "from", dir / "none/x", true, false));
+    EXPECT_EQ(-1, FSCopy(dir.path(), dir / "to", true, false));
+    EXPECT_TRUE(fs::exists(dir / "from"));
+    EXPECT_EQ((Records{kError + "CopyFile: write: No space left on device (28)",
+                       kError + "CopyFile: open(" + (dir / "none/x") + "): " + kMissing + " (2)",
+                       kError + "CopyFile: read: Is a directory (21)"}),
+              log.All());
+}
+
+TEST(FSRename, OnOneVolumeMovesOrTellsTheReason) {
     const TempDir dir;
     WriteDeep(dir / "from/file", "moved");
     WriteDeep(dir / "full/file", "stays");
     fs::create_symlink("from", dir / "way");
+    EXPECT_EQ(-1, FSRename(dir / "from", "", false));
     EXPECT_EQ(-2, FSRename(dir / "none", dir / "to", false));
     EXPECT_EQ(-2, FSRename(dir / "way/file", dir / "to", true));
     EXPECT_EQ(-100, FSRename(dir / "from", dir / std::string(300, 'x'), false));
@@ -85,37 +142,26 @@ TEST(FSRename, OnOneVolume) {
 }
 
 TEST(FSRename, AcrossVolumesMergesAndStopsAtALinkWithoutLoss) {
-    const TempDir dir;
-    const std::string to = "/dev/shm/corvimo-test-" + std::to_string(getpid());
+    if (!fs::exists("/dev/shm")) {
+        GTEST_SKIP() << "There is no second volume.";
+    }
+    const TempDir dir("/tmp");
+    const TempDir volume("/dev/shm");
     WriteDeep(dir / "from/a/b/file", "one");
-    WriteDeep(to + "/a/old", "two");
-    EXPECT_EQ(0, FSRename(dir / "from", to, true));
+    WriteDeep(volume / "a/old", "two");
+    EXPECT_EQ(0, FSRename(dir / "from", volume.path(), true));
     EXPECT_FALSE(fs::exists(dir / "from"));
-    EXPECT_EQ("one", ReadFile(to + "/a/b/file"));
-    EXPECT_EQ("two", ReadFile(to + "/a/old"));
+    EXPECT_EQ("one", ReadFile(volume / "a/b/file"));
+    EXPECT_EQ("two", ReadFile(volume / "a/old"));
 
     WriteDeep(dir / "from/file", "content");
     fs::create_symlink("file", dir / "from/link");
-    EXPECT_EQ(-3, FSRename(dir / "from", to, false));
+    EXPECT_EQ(-3, FSRename(dir / "from", volume.path(), false));
     EXPECT_TRUE(fs::is_symlink(dir / "from/link"));
-    EXPECT_NE(fs::exists(dir / "from/file"), fs::exists(to + "/file"));
-    fs::remove_all(to);
+    EXPECT_NE(fs::exists(dir / "from/file"), fs::exists(volume / "file"));
 }
 
-TEST(FSRemove, RemovesTreesButFollowsNoLink) {
-    const TempDir dir;
-    WriteDeep(dir / "kept/file", "kept");
-    WriteDeep(dir / "tree/deep/file", "");
-    fs::create_symlink("../kept", dir / "tree/link");
-    EXPECT_EQ(0, FSRemove(dir / "tree", false));
-    EXPECT_FALSE(fs::exists(dir / "tree"));
-    EXPECT_EQ("kept", ReadFile(dir / "kept/file"));
-    EXPECT_EQ(0, FSRemove(dir / "none", false));
-    EXPECT_EQ(-1, FSRemove(dir / "kept/file/below", false));
-    EXPECT_EQ(-3, FSRemove("/proc/self/limits", false));  // Nobody may remove it.
-}
-
-TEST(FSMKDir, CreatesFoldersAndTakesNothingElseForOne) {
+TEST(FSMKDir, OnAnythingButAFolderFailsAndLogsTheReason) {
     const TempDir dir;
     WriteFile(dir / "file", "");
     fs::create_directory(dir / "folder");
@@ -125,7 +171,9 @@ TEST(FSMKDir, CreatesFoldersAndTakesNothingElseForOne) {
         {dir / "d/e/", true, 0},         {fs::relative(dir.path()) / "f//g", true, 0},
         {dir / "link/below/b", true, 0}, {dir / "file", true, -1},
         {dir / "link", true, -1},        {dir / "file/below", true, -1},
+        {dir / "folder", false, 0},      {"", true, -1},
     };
+    const CapturedLog log;
     for (const auto& [path, recursive, result] : rows) {
         EXPECT_EQ(result, FSMKDir(path, recursive)) << path;
         EXPECT_TRUE(result != 0 || fs::is_directory(path)) << path;
@@ -134,56 +182,76 @@ TEST(FSMKDir, CreatesFoldersAndTakesNothingElseForOne) {
     EXPECT_TRUE(fs::is_directory(dir / "a/b"));
     EXPECT_EQ(-1, FSMKDirFromRoot(dir / "a", dir / "a/b"));
     EXPECT_EQ(-1, FSMKDirFromRoot(dir / "ab/c", dir / "a"));
+    EXPECT_EQ(7U, log.All().size());
+    EXPECT_EQ(kError + "path = /proc/x/y errno : " + kMissing, log.All().front());
 }
 
-TEST(Links, AreDescribedAndMostlyChangedThemselves) {
+TEST(SymbolicLinks, AreDescribedAndMostlyChangedThemselves) {
+    const uid_t user = geteuid() == 0 ? 12 : geteuid();  // Others cannot give a file away.
+    const gid_t group = geteuid() == 0 ? 34 : getegid();
     const TempDir dir;
+    const CapturedLog log;
     WriteDeep(dir / "real/file", "");
     fs::create_symlink("real", dir / "way");
     std::string path = dir / "way/link";
     std::string target;
+    ASSERT_EQ(0, FSCreateSymbolicLink(std::string(1023, 'x'), dir / "longest"));
+    ASSERT_EQ(0, FSCreateSymbolicLink(std::string(1024, 'x'), dir / "too long"));
     ASSERT_EQ(0, FSCreateSymbolicLink("file", path));
-    ASSERT_EQ(0, FSCreateSymbolicLink(std::string(1024, 'x'), dir / "long"));
+    EXPECT_EQ(0, FSReadSymbolicLink(dir / "longest", target));
+    EXPECT_EQ(std::string(1023, 'x'), target);
     EXPECT_EQ(0, FSReadSymbolicLink(path, target));
-    EXPECT_EQ(-1, FSReadSymbolicLink(dir / "long", target));
+    EXPECT_EQ(-1, FSReadSymbolicLink(dir / "too long", target));
     EXPECT_EQ("file", target);
-    EXPECT_EQ(0, FSChown(path, 12, 34));
+    EXPECT_EQ(0, FSChown(path, user, group));
     EXPECT_EQ(0, FSUTime(path, 1, 99));
     EXPECT_EQ(0, FSChmod(path, 0611));  // Of the file.
     _FILE_INFO_tag link;
     ASSERT_EQ(0, GetFileInfo(path, link));
     EXPECT_EQ(dir / "real/link", link.path);
-    EXPECT_EQ(std::tuple(4, 99, S_IFLNK | 0777U, 12U, 34U),
+    EXPECT_EQ(std::tuple(4, 99, S_IFLNK | 0777U, user, group),
               std::tuple(link.size, link.mtime, link.mode, link.uid, link.gid));
     EXPECT_EQ(0, FSGetRealPath(path));
     EXPECT_EQ(dir / "real/file", path);
-    _FILE_INFO_tag file;
-    ASSERT_EQ(0, GetFileInfo(path, file));
-    EXPECT_EQ(std::pair(S_IFREG | 0611U, getuid()), std::pair(file.mode, file.uid));
+    EXPECT_EQ(fs::perms(0611), fs::status(path).permissions());
+    const std::string too_long = "FSReadSymbolicLink: path of '" + (dir / "too long") + "'";
+    EXPECT_EQ(Records{kError + too_long + " is more than 1024"}, log.All());
 }
 
-TEST(Permissions, TellOnlyRefusals) {
+TEST(TemporaryFiles, HaveRandomNamesAndOnlyRefusedAccessIsTold) {
     const TempDir dir;
     std::string file;
+    std::string path;
     ASSERT_EQ(0, FSMktemp(dir.path(), file));
     EXPECT_EQ(fs::perms(0644), fs::status(file).permissions());
     EXPECT_TRUE(isFileLocked(file, X_OK));  // For everybody, root included.
-    EXPECT_FALSE(isFileLocked(file, R_OK));
+    EXPECT_FALSE(hasFilePermission(file, X_OK));
+    EXPECT_TRUE(hasFilePermission(file, R_OK));
     EXPECT_FALSE(isFileLocked(dir / "none", X_OK));
+    EXPECT_EQ(0, FSCreateTempPath(dir.path(), path));
+    EXPECT_EQ((dir / "12345678").size(), path.size());
+    EXPECT_EQ(std::vector<std::string>{FSBaseName(file)}, NamesIn(dir.path()));
+    EXPECT_TRUE(FSTimeEqual(7, 7) && !FSTimeEqual(7, 8));
 }
 
-TEST(Failures, AreLoggedWithTheirReason) {
-    const TempDir dir;
-    WriteFile(dir / "file", "");
-    const std::string none = dir / "none/x";
-    const std::string reason = "No such file or directory";
+TEST(Failures, OfOneSystemCallAreLoggedWithTheReason) {
+    const std::string none = "/dev/null/none";
+    std::string text = none;
+    DIR_HANDLE handle;
     const CapturedLog log;
-    EXPECT_EQ(-1, FSCopy(none, dir / "to", false, false));
-    EXPECT_EQ(-2, FSMKDir(none, false));
-    EXPECT_EQ(-1, FSFsync(dir / "file/x"));
-    const std::string source = "ERROR file-op: ";
-    EXPECT_EQ((Records{source + "CopyFile: open(" + none + "): " + reason + " (2)",
-                       source + "path = " + none + " errno : " + reason,
-                       source + "FSFsync: open(" + (dir / "file/x") + "): Not a directory (20)"}),
+    EXPECT_EQ(1, FSFsync("/none"));
+    EXPECT_EQ(-1, FSFsync(none));
+    EXPECT_EQ(-1, FSFsync("/dev/null"));
+    EXPECT_EQ(-1, FSOpenDir(none, 0, handle));
+    EXPECT_EQ(-1, FSReadSymbolicLink(none, text));
+    EXPECT_EQ(-1, FSGetRealPath(text));
+    const std::string open_dir = kError + "FSOpenDir: Failed to open directory '";
+    const std::string read_link = kError + "FSReadSymbolicLink: Failed to read symbolic link '";
+    EXPECT_EQ((Records{kError + "FSFsync: open(" + none + "): Not a directory (20)",
+                       kError + "FSFsync: fsync(/dev/null): Invalid argument (22)",
+                       open_dir + none + "'. Not a directory",
+                       read_link + none + "' (code: 20, msg: Not a directory)"}),
               log.All());
+    EXPECT_EQ(-1, FSMktemp(none, text));
+    EXPECT_EQ(none, text);
 }

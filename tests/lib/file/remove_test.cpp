@@ -1,6 +1,5 @@
 #include <dirent.h>
 #include <dlfcn.h>
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -20,94 +19,81 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Called with the name of every entry that is listed, before the caller sees it.
-std::function<void(const std::string&)> on_listed;
+// What another program does when an entry of this name is listed for the first time.
+struct {
+    std::string name;
+    std::function<void()> action;
+} intrusion;
 
 }  // namespace
 
 extern "C" dirent* readdir(DIR* stream) {
     static const auto real = reinterpret_cast<dirent* (*)(DIR*)>(dlsym(RTLD_NEXT, "readdir"));
     dirent* const entry = real(stream);
-    if (entry != nullptr && on_listed) {
-        on_listed(entry->d_name);
+    if (entry != nullptr && entry->d_name == intrusion.name) {
+        intrusion.name.clear();
+        intrusion.action();
     }
     return entry;
 }
 
-TEST(FSRemove, WhenAFolderIsSwappedForALinkTheLinksTargetStays) {
-    for (const std::string swap_at : {"victim", "file"}) {
-        SCOPED_TRACE("before it is opened, or while it is listed: " + swap_at);
-        const TempDir dir;
-        WriteDeep(dir / "tree/victim/file", "");
-        WriteDeep(dir / "foreign/file", "kept");
-        on_listed = [&](const std::string& listed) {
-            if (listed == swap_at) {
-                on_listed = nullptr;
-                fs::rename(dir / "tree/victim", dir / "aside");
-                fs::create_symlink(dir / "foreign", dir / "tree/victim");
-            }
-        };
-        EXPECT_EQ(-3, FSRemove(dir / "tree", false));
-        EXPECT_EQ(nullptr, on_listed);
-        EXPECT_EQ("kept", ReadFile(dir / "foreign/file"));
+TEST(FSRemove, DuringAnIntrusionRemovesNothingOutsideTheTree) {
+    std::string deep = "tree/victim";
+    for (int level = 0; level < 20; ++level) {
+        deep += "/d";
     }
-}
-
-TEST(FSRemove, WhenAParentIsMovedMeanwhileNothingElseIsRemoved) {
-    const TempDir dir;
-    std::string path = dir / "tree";
-    for (int level = 0; level < 100; ++level) {
-        path += "/d";
-    }
-    WriteDeep(path + "/file", "");
-    WriteDeep(dir / "foreign/file", "kept");
-    on_listed = [&](const std::string& listed) {
-        if (listed == "file") {
-            on_listed = nullptr;
-            fs::rename(dir / "tree/d/d", dir / "foreign/d");
-        }
+    const auto swap = [] {
+        fs::rename("tree/victim", "aside");
+        fs::create_symlink("../foreign", "tree/victim");
     };
-    EXPECT_EQ(-3, FSRemove(dir / "tree", false));
-    EXPECT_EQ("kept", ReadFile(dir / "foreign/file"));
+    const struct {
+        std::string listed;  // When it happens.
+        std::function<void()> intrusion;
+        int result;
+    } rows[] = {
+        {"victim", swap, -3},
+        {"file", swap, -3},
+        {"deep", [] { fs::rename("tree/victim/d/d", "foreign/d"); }, -3},
+        {"deep", [&] { WriteFile(deep + "/late", ""); }, 0},
+    };
+    for (const auto& row : rows) {
+        const TempDir dir;
+        fs::current_path(dir.path());
+        WriteDeep("tree/victim/file", "");
+        WriteDeep(deep + "/deep", "");
+        WriteDeep("foreign/file", "kept");
+        intrusion = {row.listed, row.intrusion};
+        EXPECT_EQ(row.result, FSRemove("tree", false));
+        EXPECT_EQ("", intrusion.name) << row.listed;
+        EXPECT_EQ("kept", ReadFile("foreign/file"));
+        EXPECT_EQ(row.result != 0, fs::exists("tree"));
+        fs::current_path("/");
+    }
 }
 
-TEST(FSRemove, RemovesATreeDeeperThanAPathReachesWithFewDescriptors) {
+TEST(FSRemove, OfATreeDeeperThanAPathReachesNeedsFewDescriptors) {
     const TempDir dir;
-    fs::create_directory(dir / "tree");
-    int folder = open((dir / "tree").c_str(), O_RDONLY);
-    const int first_free = folder;
+    fs::current_path(dir.path());
     for (int level = 0; level < 2200; ++level) {
-        ASSERT_EQ(0, mkdirat(folder, "d", 0777));
-        ASSERT_EQ(0, symlinkat("..", folder, "link"));
-        const int below = openat(folder, "d", O_RDONLY);
-        close(folder);
-        folder = below;
+        fs::create_directory("d");
+        fs::create_symlink("..", "link");
+        ASSERT_EQ(0, chdir("d"));
     }
-    close(folder);
+    fs::current_path("/");
     struct rlimit usual;
     ASSERT_EQ(0, getrlimit(RLIMIT_NOFILE, &usual));
-    struct rlimit tight = usual;
-    tight.rlim_cur = first_free + 18;
+    const struct rlimit tight = {64, usual.rlim_max};
     ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &tight));
-    EXPECT_EQ(0, FSRemove(dir / "tree", false));
-    setrlimit(RLIMIT_NOFILE, &usual);
-    EXPECT_FALSE(fs::exists(dir / "tree"));
+    EXPECT_EQ(0, FSRemove(dir / "d", false));
+    ASSERT_EQ(0, setrlimit(RLIMIT_NOFILE, &usual));
+    EXPECT_EQ(std::vector<std::string>{"link"}, NamesIn(dir.path()));
+    EXPECT_EQ(0, FSRemove(dir / "link", false));
+    EXPECT_EQ(0, FSRemove(dir / "none", false));
+    EXPECT_EQ(-1, FSRemove("/dev/null/none", false));
+    EXPECT_EQ(-3, FSRemove("/proc/self/limits", false));  // Nobody may remove it.
 }
 
-TEST(FSRemove, ListsAFolderAgainWhereAFileAppearedDuringTheListing) {
-    const TempDir dir;
-    WriteDeep(dir / "tree/file", "");
-    on_listed = [&](const std::string& listed) {
-        if (listed == "file") {
-            on_listed = nullptr;
-            WriteFile(dir / "tree/late", "");
-        }
-    };
-    EXPECT_EQ(0, FSRemove(dir / "tree", false));
-    EXPECT_FALSE(fs::exists(dir / "tree"));
-}
-
-TEST(FSRemove, LeavesWhatCannotBeOpenedAndRemovesTheRest) {
+TEST(FSRemove, WhereAFolderCannotBeOpenedRemovesTheRest) {
     const uid_t user = geteuid() == 0 ? 65534 : geteuid();
     const TempDir dir;
     WriteDeep(dir / "tree/closed/file", "kept");
@@ -125,5 +111,7 @@ TEST(FSRemove, LeavesWhatCannotBeOpenedAndRemovesTheRest) {
     EXPECT_EXIT(remove("tree/closed"), testing::ExitedWithCode(0), "");
     EXPECT_EXIT(remove("tree"), testing::ExitedWithCode(30), "");
     EXPECT_EQ(std::vector<std::string>{"closed"}, NamesIn(dir / "tree"));
+    EXPECT_EQ(0, FSMakeFoldersWritable(dir / "tree"));
+    EXPECT_EQ(fs::perms(0700), fs::status(dir / "tree/closed").permissions());
     EXPECT_EQ("kept", ReadFile(dir / "tree/closed/file"));
 }

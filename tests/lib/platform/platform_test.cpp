@@ -49,13 +49,6 @@ TEST(PlatformFileSystemType, IsLeftAsItWasOnFailure) {
     EXPECT_NE("before", type);
 }
 
-TEST(PlatformFlushFile, TellsWhyAFileCannotBeFlushed) {
-    const UniqueFd folder(open("/tmp", O_RDONLY | O_CLOEXEC));
-    EXPECT_EQ(0, PlatformFlushFile(folder.Get()));
-    EXPECT_EQ(-1, PlatformFlushFile(-1));
-    EXPECT_EQ(EBADF, errno);
-}
-
 TEST(PlatformUseUtf8CharacterType, ChangesOnlyAnotherCharacterType) {
     for (const std::string before : {"C", "C.utf8"}) {
         setlocale(LC_ALL, "C");
