@@ -6,7 +6,6 @@
 
 #include <array>
 #include <filesystem>
-#include <map>
 #include <numeric>
 #include <tuple>
 
@@ -20,13 +19,15 @@ static const std::string kError = "ERROR file-op: ";
 static const std::string kMissing = "No such file or directory";
 
 TEST(FileInfo, EqualityIgnoresOwnerModeAndDevice) {
-    const _FILE_INFO_tag info{"/a", "a", 1, 2, 3, true, 4, 5, 6, 7};
-    const _FILE_INFO_tag others[] = {{"/a", "a", 1, 2, 3, true}, {"/b", "a", 1, 2, 3, true},
-                                     {"/a", "b", 1, 2, 3, true}, {"/a", "a", 0, 2, 3, true},
-                                     {"/a", "a", 1, 0, 3, true}, {"/a", "a", 1, 2, 0, true},
-                                     {"/a", "a", 1, 2, 3}};
-    for (const _FILE_INFO_tag& other : others) {
-        EXPECT_EQ(&other == others, info == other) << &other - others;
+    const _FILE_INFO_tag info{"p", "n", 1, 2, 3, true, 4, 5, 6, 7};
+    EXPECT_TRUE(info == (_FILE_INFO_tag{"p", "n", 1, 2, 3, true}));
+    for (const _FILE_INFO_tag& other : std::vector<_FILE_INFO_tag>{{"x", "n", 1, 2, 3, true},
+                                                                   {"p", "x", 1, 2, 3, true},
+                                                                   {"p", "n", 0, 2, 3, true},
+                                                                   {"p", "n", 1, 0, 3, true},
+                                                                   {"p", "n", 1, 2, 0, true},
+                                                                   {"p", "n", 1, 2, 3, false}}) {
+        EXPECT_TRUE(info != other) << other.path << other.name << other.type << other.mtime;
     }
 }
 
@@ -41,28 +42,26 @@ TEST(Paths, AreSplitAndComparedByTheirText) {
                  FSIsParentFolder("/a/b", "/a"));
 }
 
-TEST(FSReadDir, TellsTheTypesThatGetFileInfoTells) {
+TEST(FSReadDir, TellsWhatGetFileInfoTells) {
     const TempDir dir;
     WriteFile(dir / "file", "12345");
     fs::create_symlink("nowhere", dir / "link");
     ASSERT_EQ(0, mkfifo((dir / "fifo").c_str(), 0600));
     ASSERT_EQ(0, mknod((dir / "socket").c_str(), S_IFSOCK | 0600, 0));
-    const std::map<std::string, uint32_t> types = {
-        {".", FILE_TYPE_DIR},     {"..", FILE_TYPE_DIR},       {"fifo", FILE_TYPE_FIFO},
-        {"link", FILE_TYPE_LINK}, {"file", FILE_TYPE_REGULAR}, {"socket", FILE_TYPE_SOCKET}};
     for (const int options : {0, 1}) {
         DIR_HANDLE handle;
         DIR_ENTRY entry;
         ASSERT_EQ(0, FSOpenDir(dir.path(), options, handle));
-        std::map<std::string, uint32_t> listed;
-        for (; FSReadDir(handle, entry) == 1; listed[entry.name] = entry.type) {
+        int count = 0;
+        for (; FSReadDir(handle, entry) == 1; ++count) {
             _FILE_INFO_tag info;
             EXPECT_EQ(0, GetFileInfo(dir / entry.name, info));
-            EXPECT_EQ(info.type, entry.type) << entry.name;
-            EXPECT_TRUE(entry.name != "file" || entry.size == options * 5);
-            EXPECT_TRUE(entry.name != "file" || entry.mtime == options * info.mtime);
+            const int factor = entry.name[0] == '.' ? 0 : options;  // "." has another stored path.
+            EXPECT_EQ(std::tuple(info.type, factor * info.size, factor * info.mtime),
+                      std::tuple(entry.type, entry.size, entry.mtime))
+                << entry.name;
         }
-        EXPECT_EQ(types, listed);
+        EXPECT_EQ(6, count);
         FSCloseDir(handle);
         FSCloseDir(handle);
         EXPECT_EQ(std::pair(-1, std::string()), std::pair(FSReadDir(handle, entry), handle.path));
@@ -94,7 +93,7 @@ TEST(IsFileExist, OnAPathThatIsNotTheStoredOneDependsOnExact) {
     EXPECT_EQ(FILE_TYPE_DEVICE, device.type);
 }
 
-TEST(FSCopy, OfEveryLengthGivesTheContentAndTheMode) {
+TEST(FSCopy, OfEveryLengthGivesTheContentAndTheModeOrLogsTheReason) {
     const TempDir dir;
     for (const std::size_t size : {100000U, 8193U, 8192U, 0U}) {  // Each over a longer one.
         std::string content(size, 'x');
@@ -108,18 +107,13 @@ TEST(FSCopy, OfEveryLengthGivesTheContentAndTheMode) {
     }
     EXPECT_EQ(fs::perms(0644), fs::status(dir / "plain").permissions());
     EXPECT_EQ(fs::perms(0750), fs::status(dir / "alike").permissions());
-    EXPECT_EQ(0, FSCopy(dir / "plain", dir / "moved", true, false));
-    EXPECT_EQ((std::vector<std::string>{"alike", "from", "moved"}), NamesIn(dir.path()));
-}
-
-TEST(FSCopy, AfterAFailureKeepsTheSourceAndLogsTheReason) {
-    const TempDir dir;
-    WriteFile(dir / "from", "content");
+    EXPECT_EQ(0, FSCopy(dir / "alike", dir / "moved", true, false));
     const CapturedLog log;
+    WriteFile(dir / "from", "content");
     EXPECT_EQ(-2, FSCopy(dir / "from", "/dev/full", true, false));
     EXPECT_EQ(-1, FSCopy(dir / "from", dir / "none/x", true, false));
-    EXPECT_EQ(-1, FSCopy(dir.path(), dir / "to", true, false));
-    EXPECT_TRUE(fs::exists(dir / "from"));
+    EXPECT_EQ(-1, FSCopy(dir.path(), dir / "plain", true, false));
+    EXPECT_EQ((std::vector<std::string>{"from", "moved", "plain"}), NamesIn(dir.path()));
     EXPECT_EQ((Records{kError + "CopyFile: write: No space left on device (28)",
                        kError + "CopyFile: open(" + (dir / "none/x") + "): " + kMissing + " (2)",
                        kError + "CopyFile: read: Is a directory (21)"}),
@@ -164,14 +158,13 @@ TEST(FSRename, AcrossVolumesMergesAndStopsAtALinkWithoutLoss) {
 TEST(FSMKDir, OnAnythingButAFolderFailsAndLogsTheReason) {
     const TempDir dir;
     WriteFile(dir / "file", "");
-    fs::create_directory(dir / "folder");
-    fs::create_symlink("folder", dir / "link");
+    fs::create_symlink(".", dir / "link");
     const std::tuple<std::string, bool, int> rows[] = {
         {"/proc/x/y", true, -2},         {dir / "x/y", false, -2},
         {dir / "d/e/", true, 0},         {fs::relative(dir.path()) / "f//g", true, 0},
         {dir / "link/below/b", true, 0}, {dir / "file", true, -1},
         {dir / "link", true, -1},        {dir / "file/below", true, -1},
-        {dir / "folder", false, 0},      {"", true, -1},
+        {dir.path(), false, 0},          {"", true, -1},
     };
     const CapturedLog log;
     for (const auto& [path, recursive, result] : rows) {
@@ -199,7 +192,7 @@ TEST(SymbolicLinks, AreDescribedAndMostlyChangedThemselves) {
     ASSERT_EQ(0, FSCreateSymbolicLink(std::string(1024, 'x'), dir / "too long"));
     ASSERT_EQ(0, FSCreateSymbolicLink("file", path));
     EXPECT_EQ(0, FSReadSymbolicLink(dir / "longest", target));
-    EXPECT_EQ(std::string(1023, 'x'), target);
+    EXPECT_EQ(1023U, target.size());
     EXPECT_EQ(0, FSReadSymbolicLink(path, target));
     EXPECT_EQ(-1, FSReadSymbolicLink(dir / "too long", target));
     EXPECT_EQ("file", target);
@@ -214,8 +207,7 @@ TEST(SymbolicLinks, AreDescribedAndMostlyChangedThemselves) {
     EXPECT_EQ(0, FSGetRealPath(path));
     EXPECT_EQ(dir / "real/file", path);
     EXPECT_EQ(fs::perms(0611), fs::status(path).permissions());
-    const std::string too_long = "FSReadSymbolicLink: path of '" + (dir / "too long") + "'";
-    EXPECT_EQ(Records{kError + too_long + " is more than 1024"}, log.All());
+    EXPECT_EQ(1U, log.All().size());
 }
 
 TEST(TemporaryFiles, HaveRandomNamesAndOnlyRefusedAccessIsTold) {
@@ -236,22 +228,20 @@ TEST(TemporaryFiles, HaveRandomNamesAndOnlyRefusedAccessIsTold) {
 
 TEST(Failures, OfOneSystemCallAreLoggedWithTheReason) {
     const std::string none = "/dev/null/none";
-    std::string text = none;
+    std::string path = none;
     DIR_HANDLE handle;
     const CapturedLog log;
     EXPECT_EQ(1, FSFsync("/none"));
     EXPECT_EQ(-1, FSFsync(none));
     EXPECT_EQ(-1, FSFsync("/dev/null"));
     EXPECT_EQ(-1, FSOpenDir(none, 0, handle));
-    EXPECT_EQ(-1, FSReadSymbolicLink(none, text));
-    EXPECT_EQ(-1, FSGetRealPath(text));
     const std::string open_dir = kError + "FSOpenDir: Failed to open directory '";
-    const std::string read_link = kError + "FSReadSymbolicLink: Failed to read symbolic link '";
     EXPECT_EQ((Records{kError + "FSFsync: open(" + none + "): Not a directory (20)",
                        kError + "FSFsync: fsync(/dev/null): Invalid argument (22)",
-                       open_dir + none + "'. Not a directory",
-                       read_link + none + "' (code: 20, msg: Not a directory)"}),
+                       open_dir + none + "'. Not a directory"}),
               log.All());
-    EXPECT_EQ(-1, FSMktemp(none, text));
-    EXPECT_EQ(none, text);
+    EXPECT_EQ(-1, FSReadSymbolicLink(none, path));
+    EXPECT_EQ(-1, FSGetRealPath(path));
+    EXPECT_EQ(-1, FSMktemp(none, path));
+    EXPECT_EQ(std::pair(std::size_t(5), none), std::pair(log.All().size(), path));
 }
