@@ -17,15 +17,11 @@
 
 namespace fs = std::filesystem;
 
-namespace {
-
 // What another program does when an entry of this name is listed for the first time.
-struct {
+static struct {
     std::string name;
     std::function<void()> action;
 } intrusion;
-
-}  // namespace
 
 extern "C" dirent* readdir(DIR* stream) {
     static const auto real = reinterpret_cast<dirent* (*)(DIR*)>(dlsym(RTLD_NEXT, "readdir"));
@@ -38,10 +34,7 @@ extern "C" dirent* readdir(DIR* stream) {
 }
 
 TEST(FSRemove, DuringAnIntrusionRemovesNothingOutsideTheTree) {
-    std::string deep = "tree/victim";
-    for (int level = 0; level < 20; ++level) {
-        deep += "/d";
-    }
+    const std::string deep = "tree/victim/d/d/d/d/d/d/d/d/d/d/d/d/d/d/d/d/d/d/d/d";
     const auto swap = [] {
         fs::rename("tree/victim", "aside");
         fs::create_symlink("../foreign", "tree/victim");
@@ -51,7 +44,7 @@ TEST(FSRemove, DuringAnIntrusionRemovesNothingOutsideTheTree) {
         {"victim", swap, -3},
         {"file", swap, -3},
         {"deep", [] { fs::rename("tree/victim/d/d", "foreign/d"); }, -3},
-        {"deep", [&] { WriteFile(deep + "/late", ""); }, 0},
+        {"deep", [&] { WriteFile(deep + "/late", ""), WriteFile(deep + "/../late", ""); }, 0},
     };
     for (const auto& [listed, action, result] : rows) {
         const TempDir dir;
@@ -60,7 +53,7 @@ TEST(FSRemove, DuringAnIntrusionRemovesNothingOutsideTheTree) {
         WriteDeep(deep + "/deep", "");
         WriteDeep("foreign/file", "kept");
         intrusion = {listed, action};
-        EXPECT_EQ(result, FSRemove("tree", false)) << listed;
+        EXPECT_EQ(result, FSRemove("tree/", false)) << listed;
         EXPECT_EQ("", intrusion.name);
         EXPECT_EQ("kept", ReadFile("foreign/file"));
         EXPECT_EQ(result != 0, fs::exists("tree"));
@@ -98,6 +91,7 @@ static void RemoveAroundAClosedFolder() {
         WriteDeep(dir / "tree/" + name + "/file", "");
     }
     fs::permissions(dir / "tree/closed", fs::perms::none);
+    fs::permissions(dir.path(), fs::perms(0300));  // It may be searched, but not read.
     EXPECT_EQ(0, FSRemove(dir / "tree/closed", false));
     EXPECT_EQ(-3, FSRemove(dir / "tree", false));
     EXPECT_EQ(std::vector<std::string>{"closed"}, NamesIn(dir / "tree"));
