@@ -8,11 +8,11 @@
 namespace {
 
 struct Translation {
-    const char* language;  // The first subtag of a language tag, in lower case.
+    const char* language;  // The first subtag of a BCP 47 tag, in lower case.
     const char* code;
 };
 
-/// The languages that have one translation, whatever the script and the region.
+// The languages that have one translation for all their scripts and regions.
 constexpr Translation kTranslations[] = {
     {"cs", "csy"}, {"da", "dan"}, {"de", "ger"}, {"en", "enu"}, {"es", "spn"},
     {"fr", "fre"}, {"hu", "hun"}, {"it", "ita"}, {"ja", "jpn"}, {"ko", "krn"},
@@ -20,7 +20,7 @@ constexpr Translation kTranslations[] = {
     {"ru", "rus"}, {"sv", "sve"}, {"th", "tha"}, {"tr", "trk"},
 };
 
-/// The code for Chinese, from the subtags of a tag in lower case.
+// Returns the code for Chinese. The subtags are in lower case.
 QString ChineseCode(const QStringList& subtags) {
     const auto has = [&subtags](const char* subtag) {
         return subtags.contains(QLatin1String(subtag));
@@ -29,7 +29,7 @@ QString ChineseCode(const QStringList& subtags) {
     return traditional && !has("hans") ? QStringLiteral("cht") : QStringLiteral("chs");
 }
 
-/// The code for Portuguese, from the subtags of a tag in lower case.
+// Returns the code for Portuguese. The subtags are in lower case.
 QString PortugueseCode(const QStringList& subtags) {
     const bool outside_brazil =
         std::any_of(std::next(subtags.begin()), subtags.end(), [](const QString& subtag) {
@@ -39,8 +39,8 @@ QString PortugueseCode(const QStringList& subtags) {
     return outside_brazil ? QStringLiteral("ptg") : QStringLiteral("ptb");
 }
 
-/// The subtags of a language tag in lower case, up to the first extension, which a single letter begins
-/// and whose own subtags look like regions.
+// Returns the subtags of a language tag in lower case, without extensions. An extension starts with
+// a subtag of one letter. Its other subtags may look like regions, such as "ca" in "pt-BR-u-ca".
 QStringList SubtagsOf(const QString& tag) {
     const QStringList subtags = tag.toLower().split(QLatin1Char('-'));
     const auto extension = std::find_if(subtags.begin(), subtags.end(),
@@ -48,7 +48,7 @@ QStringList SubtagsOf(const QString& tag) {
     return subtags.mid(0, std::max(1, static_cast<int>(extension - subtags.begin())));
 }
 
-/// The code of a language tag's translation, or an empty string when it has none.
+// Returns the code of the translation for a language tag, or an empty string if there is none.
 QString CodeForTag(const QString& tag) {
     const QStringList subtags = SubtagsOf(tag);
     const QString& language = subtags.first();

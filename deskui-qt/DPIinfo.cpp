@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Matches what must be read as a whole: comments, quoted texts and url(...), which are left alone,
-/// and lengths in px. Only a length has a capture: its number.
+// Returns a pattern for lengths in px, which captures their numbers. It also matches comments,
+// quoted texts and url(...) as a whole, without a capture, so that no length is found in them.
 const QRegularExpression& StyleToken() {
     static const QRegularExpression token(
         QStringLiteral(R"(/\*.*?\*/)"
@@ -44,7 +44,7 @@ QString DPIinfo::getScaledStyleSheet(QString sheet) const {
 
 double DPIinfo::scaleForResolution(double logical_dpi, double design_dpi) {
     constexpr double kStepsPerUnit = 4.0;
-    // Unlike std::max, fmax is 1.0 also for a resolution that is not a number.
+    // If the resolution is not a number, fmax returns 1.0; std::max might return the NaN.
     return std::fmax(1.0, std::round(logical_dpi / design_dpi * kStepsPerUnit) / kStepsPerUnit);
 }
 
@@ -53,7 +53,7 @@ QString DPIinfo::scaleStyleSheet(QString sheet, double factor) {
         return sheet;
     }
     QString scaled;
-    decltype(sheet.size()) copied = 0;  // Its type differs between versions of Qt.
+    decltype(sheet.size()) copied = 0;  // The type is int in Qt 5, and qsizetype in Qt 6.
     auto tokens = StyleToken().globalMatch(sheet);
     while (tokens.hasNext()) {
         const QRegularExpressionMatch token = tokens.next();

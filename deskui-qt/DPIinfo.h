@@ -4,39 +4,40 @@
 
 #include "deskui_export.h"
 
-/// Tells how much larger than designed the user interface is to be drawn. Used on the main thread
-/// only.
+/// Finds the scale of the display, and scales style sheets by it. Main thread only.
 class DESKUI_EXPORT DPIinfo {
 public:
-    /// The service of this process. It is made on first use, is never null, and is not the caller's
-    /// to delete.
+    /// Returns the only instance, which is made on first use. The caller does not own it.
     static DPIinfo* getInstance();
 
     DPIinfo(const DPIinfo&) = delete;
     DPIinfo& operator=(const DPIinfo&) = delete;
 
-    /// The display scale: a factor, 1.0 for the design size, and not dots per inch.
+    /// Returns the scale of the primary screen: a factor, not dots per inch. It is 1.0 for the size
+    /// for which windows are designed, and also without a screen or an application object.
     ///
-    /// It is that of the primary screen at the time of the call, or 1.0 when there is no screen or
-    /// no application object yet. What Qt itself scales, as Qt 6 does with every window, is not part
-    /// of it.
+    /// The scaling that Qt does itself is not included. Qt 6 does so for every window.
     double getDPI() const;
 
-    /// `scaleStyleSheet` at the display scale.
+    /// Returns the style sheet scaled by `getDPI`; see `scaleStyleSheet`.
     QString getScaledStyleSheet(QString sheet) const;
 
-    /// A logical resolution over the one that windows are designed for, both in dots per inch, to
-    /// the nearest quarter and never below 1.0: a monitor that is slightly off does not blur the
-    /// window, and none shrinks it.
+    /// Divides a logical resolution by the resolution for which windows are designed, both in dots
+    /// per inch. Returns the result rounded to a multiple of 0.25, but at least 1.0.
+    ///
+    /// The rounding keeps the window sharp on a monitor whose resolution differs only slightly.
     static double scaleForResolution(double logical_dpi, double design_dpi);
 
-    /// The style sheet with its lengths in px multiplied by `factor`, and all else as it was.
+    /// Returns the style sheet with all lengths in px multiplied by `factor`. The rest is
+    /// unchanged.
     ///
-    /// A length is a number with an optional sign and fraction and with "px", in any case, directly
-    /// behind it, that is not a part of a longer name or number: "10px", "1.5px" and "-2px" are
-    /// lengths; "#10px", "w10px" and "10pxx" are not. Nothing is changed within quotes, within
-    /// url(...) and within comments. A scaled length is rounded to a whole pixel, halves away from
-    /// zero, for Qt draws no fractions. At a factor of 1.0 the sheet comes back as it is.
+    /// A length is a number, with an optional sign and fraction, directly before "px" in upper or
+    /// lower case. It must not be part of a longer name or number: "10px", "1.5px" and "-2px" are
+    /// lengths, and "#10px", "w10px" and "10pxx" are not. Texts in quotes, url(...) and comments
+    /// are not changed.
+    ///
+    /// A scaled length is rounded to a whole pixel, halves away from zero, because Qt draws no
+    /// fractions of a pixel. With a factor of 1.0, lengths with a fraction stay as they are, too.
     static QString scaleStyleSheet(QString sheet, double factor);
 
 private:

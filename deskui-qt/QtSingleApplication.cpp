@@ -15,16 +15,17 @@
 
 namespace {
 
-/// Opens the lock file of the user's home folder, which is made if it is missing. Returns 0, or the
-/// error number with `file` not open: EPERM when the file belongs to another user.
+// Opens the lock file in the user's home folder, and creates it if it is missing. Returns 0, or the
+// error number with `file` not open. The error is EPERM if the file belongs to another user.
 int OpenLockFile(UniqueFd& file) {
     const QString folder = QDir::homePath() + QStringLiteral("/.Corvimo");
-    // A failure shows when the file is opened. That the folder already exists is no failure.
+    // mkdir also fails if the folder exists. After any other failure, opening the file fails as
+    // well.
     ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU);
     const QByteArray path = QFile::encodeName(folder + QStringLiteral("/launcher.lock"));
     UniqueFd opened =
         OpenRegularFile(path.toStdString(), O_RDWR | O_CREAT | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-    // The open file is examined, because its path may come to name another file meanwhile.
+    // fstat and not stat, because another file may be at the path by now.
     struct stat status = {};
     if (!opened.IsOpen() || ::fstat(opened.Get(), &status) != 0) {
         return errno;
@@ -36,8 +37,8 @@ int OpenLockFile(UniqueFd& file) {
     return 0;
 }
 
-/// Takes the lock without waiting for it. Returns 0, or the error number: EWOULDBLOCK when another
-/// process has it.
+// Takes the lock without waiting for it. Returns 0, or the error number. The error is EWOULDBLOCK
+// if another process holds the lock.
 int TakeLock(const UniqueFd& file) {
     const int result = RetryInterrupted([&file] { return ::flock(file.Get(), LOCK_EX | LOCK_NB); });
     return result == 0 ? 0 : errno;

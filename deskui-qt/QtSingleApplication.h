@@ -7,37 +7,36 @@
 
 class UniqueFd;
 
-/// The application object of a program of which one instance runs at a time for each home folder,
-/// whichever copy of the program is started.
+/// The application object of a program that runs only once at a time for each home folder, even if
+/// the user has several copies of the program.
 ///
-/// The instance holds an advisory lock on the file ".Corvimo/launcher.lock" in the user's home
-/// folder. The system releases it when the process ends in any way, so a crashed instance is in
-/// nobody's way, and programs that the process starts do not inherit it. The file stays behind:
-/// removing it would let two instances lock two files.
+/// The running instance holds an advisory lock on the file ".Corvimo/launcher.lock" in the user's
+/// home folder. The system releases the lock when the process ends, also after a crash. Programs
+/// that the process starts do not inherit the lock. The file is never removed: otherwise two
+/// instances could lock two different files.
 ///
-/// A lock that cannot be tried counts as free, since a launcher that never starts is worse than two
-/// that run at once. A warning says why.
+/// If the lock cannot be tried, it counts as free, and a warning says why. Two launchers at once do
+/// less harm than a launcher that never starts.
 class DESKUI_EXPORT QtSingleApplication : public QApplication {
     Q_OBJECT
 
 public:
-    /// Makes the application object and tries the lock; only the lock's holder is the instance.
+    /// Makes the application object and tries the lock. Main thread only.
     ///
-    /// The folder ".Corvimo" is made, for its owner alone, when only it is missing. It may be
-    /// reached through a symbolic link, and others may have the right to write to it. The lock file
-    /// counts when it is a regular file that belongs to the user; a symbolic link in its place is
-    /// not followed. Where others may write to the folder, they can put another file in its place:
-    /// two instances may then run at once.
+    /// Creates the folder ".Corvimo", with access for its owner only, if it is missing. It may be a
+    /// symbolic link to a folder, and others may have write access to it. If others replace the
+    /// lock file there, two instances can run at once. The lock file must be a regular file that
+    /// belongs to the user, and no symbolic link.
     ///
-    /// `argc` and `argv` must stay valid for as long as the object. `gui_enabled` has no effect: an
-    /// application with widgets always has its window system. Main thread only.
+    /// `argc` and `argv` must stay valid as long as the object exists. `gui_enabled` has no effect:
+    /// an application with widgets always needs a window system.
     QtSingleApplication(int& argc, char** argv, bool gui_enabled);
 
     /// Releases the lock.
     ~QtSingleApplication() override;
 
-    /// Whether another process was the instance when this object was made. It does not change
-    /// later.
+    /// Returns whether another instance was running when this object was made. The result never
+    /// changes.
     bool isRunning() const { return is_running_; }
 
 private:

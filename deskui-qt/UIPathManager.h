@@ -5,24 +5,23 @@
 
 #include "deskui_export.h"
 
-/// The registry of named paths: the one place where the paths of the user's folders and of the
-/// bundle are kept, so that nobody builds them a second time.
+/// The registry of named paths. It holds the paths of the user's folders and of the bundle, so that
+/// they are built in one place only.
 ///
-/// Paths are kept as they are given. Joining and cleaning them is up to the caller. `getPath` may
-/// be called from several threads at once, as long as none calls `setPath`.
+/// Paths are stored unchanged. The caller joins and cleans them. Several threads may call `getPath`
+/// at once, as long as no thread calls `setPath`.
 class DESKUI_EXPORT UIPathManager {
 public:
-    /// The registry of this process. It is made on first use, is never null, and is not the
-    /// caller's to delete.
+    /// Returns the only instance, which is made on first use. The caller does not own it.
     static UIPathManager* getInstance();
 
     UIPathManager(const UIPathManager&) = delete;
     UIPathManager& operator=(const UIPathManager&) = delete;
 
-    /// Keeps `path` under `key`, in place of any earlier one.
+    /// Stores `path` under `key`, and replaces an earlier path.
     void setPath(const QString& key, const QString& path);
 
-    /// The path kept under exactly this key, or an empty string when there is none.
+    /// Returns the path that is stored under exactly this key, or an empty string if there is none.
     QString getPath(const QString& key) const;
 
 private:

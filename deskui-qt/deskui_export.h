@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// Marks what the library offers. Everything else in it is hidden from its users.
+/// Exports a class from the shared library. All other symbols of the library are hidden.
 #if defined(DESKUI_BUILD)
 #define DESKUI_EXPORT Q_DECL_EXPORT
 #else

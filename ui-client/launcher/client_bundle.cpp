@@ -25,7 +25,7 @@ bool IsMissingError(int error) {
     return error == ENOENT || error == ENOTDIR;
 }
 
-// The build number, if the text is a whole number and nothing else.
+// Returns the number, or nothing if the text is not a whole number from its first to its last byte.
 std::optional<int64_t> WholeNumber(const std::string& text) {
     int64_t number = 0;
     const char* const end = text.data() + text.size();
@@ -33,25 +33,27 @@ std::optional<int64_t> WholeNumber(const std::string& text) {
     return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
 }
 
+// Returns kWhole for an executable file. Symbolic links are followed.
 ClientBundle::State StateOfExecutable(const std::string& path) {
     struct stat status;
     if (stat(path.c_str(), &status) != 0) {
-        return IsMissingError(errno) || errno == ELOOP ? ClientBundle::kTorso
+        return IsMissingError(errno) || errno == ELOOP ? ClientBundle::kIncomplete
                                                        : ClientBundle::kUnknown;
     }
     const bool can_start = S_ISREG(status.st_mode) && (status.st_mode & S_IXUSR) != 0;
-    return can_start ? ClientBundle::kWhole : ClientBundle::kTorso;
+    return can_start ? ClientBundle::kWhole : ClientBundle::kIncomplete;
 }
 
-// Reads the whole file. Returns 0, also with an empty text for a missing file and for anything but a
-// regular file; otherwise -1.
+// Reads a whole file. Returns 0 with the text, 0 with an empty text if the path leads to no regular
+// file, or -1 if the file could not be read.
 int ReadText(const std::string& path, std::string& text) {
     const UniqueFd file = OpenRegularFile(path, O_RDONLY);
     if (!file.IsOpen()) {
-        // The last two are the answers for a socket.
-        const bool is_no_file = IsMissingError(errno) || errno == ELOOP || errno == EINVAL ||
-                                errno == ENXIO || errno == EOPNOTSUPP;
-        return is_no_file ? 0 : -1;
+        // OpenRegularFile fails with EINVAL for most other objects. For a socket, open fails with
+        // ENXIO on Linux and with EOPNOTSUPP on macOS.
+        const bool has_no_file = IsMissingError(errno) || errno == ELOOP || errno == EINVAL ||
+                                 errno == ENXIO || errno == EOPNOTSUPP;
+        return has_no_file ? 0 : -1;
     }
     std::array<char, 4096> block;
     ssize_t count = 0;
@@ -70,7 +72,7 @@ std::string Trimmed(const std::string& text) {
                : text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
 }
 
-// The build in the text of an INFO file; empty when it names none.
+// Finds the build in the text of an INFO file. Returns an empty text if it names none.
 std::string BuildInText(const std::string& text) {
     std::istringstream lines(text);
     std::string build;
@@ -88,8 +90,9 @@ std::string BuildInText(const std::string& text) {
     return build;
 }
 
-// QSettings takes a file that it could not read for an empty one, and keeps the empty content for the
-// life of the process. So a file without a value is read here once more.
+// Inspects an INFO file. QSettings does not tell a read error from an empty file, and keeps the
+// empty content in its cache until the process ends. So a file without a build is read again
+// without it.
 ClientBundle InspectInfo(const std::string& path) {
     std::optional<std::string> build = VersionFile(QString::fromStdString(path)).Value(kBuildKey);
     if (!build.has_value()) {
@@ -101,29 +104,29 @@ ClientBundle InspectInfo(const std::string& path) {
     }
     const std::optional<int64_t> number = WholeNumber(*build);
     return number.has_value() ? ClientBundle{ClientBundle::kWhole, *number}
-                              : ClientBundle{ClientBundle::kTorso};
+                              : ClientBundle{ClientBundle::kIncomplete};
 }
 
-// Removes one file of the bundle, unless a symbolic link leads out of the bundle to it. Returns whether
-// nothing is there any more.
+// Removes one file of the bundle, unless a symbolic link on its path leads out of the bundle.
+// Returns whether the file is missing afterwards.
 bool RemovePart(const std::string& path, const std::string& part) {
     _FILE_INFO_tag bundle;
     _FILE_INFO_tag file;
     if (GetFileInfo(path, bundle) == 0 && GetFileInfo(path + part, file) == 0 &&
         bundle.type == FILE_TYPE_DIR && FSIsParentFolder(bundle.path, file.path)) {
-        static_cast<void>(FSRemove(path + part, false));  // What stays is looked for below.
+        static_cast<void>(FSRemove(path + part, false));  // IsSurelyMissing tells the result.
     }
     return IsSurelyMissing(path + part);
 }
 
-// Removes INFO, and where INFO stays, the executable: whatever interrupts the removal from here on, what
-// is left does not count as whole.
-void MakeTorso(const std::string& path, const BundleParts& parts) {
+// Removes INFO, or the executable if INFO cannot be removed. If the removal of the bundle is
+// interrupted later, the rest of the bundle does not count as whole.
+void MakeIncomplete(const std::string& path, const BundleParts& parts) {
     for (const std::string& part : {parts.info, parts.executable}) {
         if (RemovePart(path, part)) {
             return;
         }
-        // A folder that stays as it is shows in the next attempt.
+        // If this fails, the next attempt fails as well.
         static_cast<void>(FSMakeFoldersWritable(path));
         if (RemovePart(path, part)) {
             return;
@@ -145,8 +148,9 @@ bool RemoveBundle(const std::string& path, const BundleParts& parts) {
     if (IsSurelyMissing(path)) {
         return true;
     }
-    MakeTorso(path, parts);
-    static_cast<void>(FSRemove(path, false));  // What stays is looked for below.
+    MakeIncomplete(path, parts);
+    // IsSurelyMissing tells the result of each removal.
+    static_cast<void>(FSRemove(path, false));
     if (!IsSurelyMissing(path)) {
         static_cast<void>(FSMakeFoldersWritable(path));
         static_cast<void>(FSRemove(path, false));

@@ -1,36 +1,39 @@
-// One copy of the client on disk: the installed one, or one that was moved aside as a backup.
+// One copy of the client on disk: the installed one, or a backup of it.
+//
+// Nothing is logged here, and nothing is thrown.
 #pragma once
 
 #include <cstdint>
 #include <string>
 
-/// The paths, below the bundle, of the files that make it whole. Each begins with "/".
+/// The paths, relative to the bundle, of the two files that a whole bundle needs. Each begins with
+/// "/".
 struct BundleParts {
     std::string executable;
     std::string info;
 };
 
-/// What is at a bundle's path.
+/// What was found at a bundle's path.
 struct ClientBundle {
     enum State {
         kMissing,
-        kTorso,   ///< Something is there, but it is not whole.
-        kWhole,   ///< It has an executable file, and an INFO with a whole number as its build.
-        kUnknown  ///< The system refused to tell.
+        kIncomplete,  ///< Something is there, but it is not whole.
+        kWhole,       ///< It has an executable file, and an INFO with a whole number as its build.
+        kUnknown      ///< It could not be inspected.
     };
     State state = kUnknown;
-    int64_t build = 0;  ///< Of a whole bundle; 0 otherwise.
+    int64_t build = 0;  ///< The build of a whole bundle, otherwise 0.
 };
 
-/// Inspects the bundle at `path`. Nothing is logged.
+/// Inspects the bundle at `path`.
 ClientBundle InspectBundle(const std::string& path, const BundleParts& parts);
 
-/// Removes the bundle at `path`, whatever state it is in. Returns whether nothing is there any more.
+/// Removes whatever is at `path`. Returns whether nothing is there afterwards.
 ///
-/// INFO goes first, or where it cannot be removed, the executable: what an interruption leaves is not
-/// whole. Where something cannot be removed, every folder is made writable for its owner, and the
-/// removal is tried once more. Symbolic links are removed, never followed.
+/// INFO is removed first, or the executable if INFO cannot be removed. So what an interruption
+/// leaves is not whole. If an object cannot be removed, every folder is made writable for its
+/// owner, and the removal is tried once more. Symbolic links are removed, never followed.
 bool RemoveBundle(const std::string& path, const BundleParts& parts);
 
-/// Whether there certainly is nothing at the path, as opposed to something that cannot be inspected.
+/// Returns whether nothing is at `path`. Returns false if the path cannot be inspected.
 bool IsSurelyMissing(const std::string& path);

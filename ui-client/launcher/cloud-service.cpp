@@ -7,13 +7,15 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <optional>
 #include <vector>
 
-#include "UIPathManager.h"
+#include "client_backups.h"
 #include "client_bundle.h"
 #include "extractor.h"
 #include "lib/file/file-op.h"
 #include "lib/log.h"
+#include "registered_path.h"
 #include "version_file.h"
 
 #define LOG_SOURCE "cloud-service"
@@ -22,14 +24,14 @@ namespace {
 
 const std::string kLogComponent = "service_debug";
 
-// Backups that earlier, interrupted runs may have left take the lower names.
+// Leftovers of earlier runs may take some of the names, so there are several.
 constexpr int kBackupNames = 10;
 
 std::string NativePath(const QString& path) {
     return QDir::toNativeSeparators(path).toStdString();
 }
 
-// The fields of one side's version, to be filled from its INFO file.
+// The version fields of one side.
 struct VersionFields {
     std::string& major;
     std::string& minor;
@@ -66,10 +68,24 @@ std::string GetAppBackupDir(const std::string& path, int index) {
     return base + suffix.data();
 }
 
-// Whether there is an old bundle to keep. A bundle that cannot be inspected counts as one: if it were
-// taken for missing, the package would be unpacked over it.
+// Returns the paths of the per-user bundle and of its backups.
+ClientPaths PathsOfClient(const std::string& app) {
+    const auto prefix = RegisteredPath("user_corvimo_app_path").size();
+    const QString executable = RegisteredPath("user_corvimo_ui_path").mid(prefix);
+    const QString resources = RegisteredPath("user_corvimo_resource_path").mid(prefix);
+    ClientPaths paths;
+    paths.app = app;
+    for (int index = 0; index < kBackupNames; ++index) {
+        paths.backups.push_back(GetAppBackupDir(app, index));
+    }
+    paths.parts = {executable.toStdString(), (resources + QLatin1String("/INFO")).toStdString()};
+    return paths;
+}
+
+// Returns whether there is an old bundle to back up. A bundle that cannot be inspected counts as
+// one: otherwise the package would be unpacked over it.
 bool HasOldApp(const std::string& app) {
-    constexpr int kAttempts = 2;  // The system may refuse the first answer only.
+    constexpr int kAttempts = 2;  // An inspection may fail once, for want of memory for instance.
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         if (IsSurelyMissing(app)) {
             return false;
@@ -78,118 +94,55 @@ bool HasOldApp(const std::string& app) {
     return true;
 }
 
-// Moves the bundle aside. Returns the index of the backup's name, or -1 when no name was free.
-int BackUp(const std::string& app) {
-    for (int index = 0; index < kBackupNames; ++index) {
-        const std::string backup = GetAppBackupDir(app, index);
+// Renames the bundle to the first backup name that is free. Returns the index of that name, or
+// nothing if no renaming succeeded.
+std::optional<std::size_t> BackUp(const ClientPaths& paths) {
+    const std::string& app = paths.app;
+    for (std::size_t index = 0; index < paths.backups.size(); ++index) {
+        const std::string& backup = paths.backups[index];
         if (FSRename(app, backup, false) == 0) {
             return index;
         }
         LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'", app.c_str(), backup.c_str());
     }
     LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting", app.c_str(),
-            GetAppBackupDir(app, kBackupNames - 1).c_str());
-    return -1;
+            paths.backups.back().c_str());
+    return std::nullopt;
 }
 
-// The registered paths of the per-user bundle, relative to it.
-BundleParts PartsOfBundle() {
-    const auto prefix = Service::RegisteredPath("user_corvimo_app_path").size();
-    const QString resources = Service::RegisteredPath("user_corvimo_resource_path").mid(prefix);
-    return {Service::RegisteredPath("user_corvimo_ui_path").mid(prefix).toStdString(),
-            (resources + QLatin1String("/INFO")).toStdString()};
-}
-
-void RemoveBackups(const std::string& app, int last_index) {
+void RemoveBackups(const ClientPaths& paths, std::size_t last_index) {
     LOG_MSG(INFO, "user installation is ready, removing backup app");
-    for (int index = 0; index <= last_index; ++index) {
-        // Whatever stays is removed before the next installation.
-        static_cast<void>(RemoveBundle(GetAppBackupDir(app, index), PartsOfBundle()));
+    for (std::size_t index = 0; index <= last_index; ++index) {
+        // The next installation removes a backup that stays.
+        static_cast<void>(RemoveBundle(paths.backups[index], paths.parts));
     }
 }
 
-// Renames what cannot be removed to a random name, so that it takes no name that is needed.
-bool MoveToRandomName(const std::string& path) {
-    std::string name;
-    return FSCreateTempPath(FSParentPath(path), name) == 0 && FSRename(path, name, false) == 0;
-}
-
-bool MoveToFreeBackupName(const std::string& app) {
-    for (int index = 0; index < kBackupNames; ++index) {
-        const std::string backup = GetAppBackupDir(app, index);
-        if (IsSurelyMissing(backup) && FSRename(app, backup, false) == 0) {
-            return true;
-        }
-    }
-    return false;
-}
-
-// Sees to it that nothing is at the bundle's path.
-bool ClearPlace(const std::string& app) {
-    return RemoveBundle(app, PartsOfBundle()) || MoveToFreeBackupName(app) || MoveToRandomName(app);
-}
-
-void RollBack(const std::string& app, const std::string& backup) {
+void RollBack(const ClientPaths& paths, const std::string& backup) {
     LOG_MSG(ERROR, "Failed to extract package, rollback to old installation");
-    // When either fails, the old bundle is whole under the backup's name, and EnsureWholeClient tries
-    // again.
-    static_cast<void>(ClearPlace(app));
-    static_cast<void>(FSRename(backup, app, false));
+    // If either step fails, the old bundle stays whole under its backup name, and EnsureWholeClient
+    // tries again.
+    static_cast<void>(FreeAppPath(paths));
+    static_cast<void>(FSRename(backup, paths.app, false));
 }
 
-struct Backup {
-    std::string path;
-    ClientBundle bundle;
-};
-
-std::vector<Backup> InspectBackups(const std::string& app) {
-    const BundleParts parts = PartsOfBundle();
-    std::vector<Backup> backups;
-    for (int index = 0; index < kBackupNames; ++index) {
-        const std::string path = GetAppBackupDir(app, index);
-        backups.push_back({path, InspectBundle(path, parts)});
-    }
-    return backups;
-}
-
-// The whole backup with the greatest build; of equals the one with the highest index, which is
-// usually the newest. Null when none is whole.
-const Backup* BestBackup(const std::vector<Backup>& backups) {
-    const Backup* best = nullptr;
-    for (const Backup& backup : backups) {
-        if (backup.bundle.state == ClientBundle::kWhole &&
-            (best == nullptr || backup.bundle.build >= best->bundle.build)) {
-            best = &backup;
-        }
-    }
-    return best;
-}
-
-void RemoveTorsos(const std::vector<Backup>& backups) {
-    for (const Backup& backup : backups) {
-        if (backup.bundle.state == ClientBundle::kTorso) {
-            // One that stays costs nothing but room.
-            static_cast<void>(RemoveBundle(backup.path, PartsOfBundle()));
-        }
-    }
-}
-
-// Puts the best backup in the place of a bundle that is not whole. Returns whether it has.
-bool PutBackBestBackup(const std::string& app) {
-    const std::vector<Backup> backups = InspectBackups(app);
-    const Backup* const best = BestBackup(backups);
+// Renames the best backup to the path of a bundle that is not whole. Returns whether that
+// succeeded.
+bool PutBackBestBackup(const ClientPaths& paths) {
+    const std::vector<Backup> backups = InspectBackups(paths);
+    const Backup* const best = FindBestBackup(backups);
     if (best == nullptr) {
         return false;
     }
-    static_cast<void>(ClearPlace(app));  // Where something stays there, the rename fails.
-    if (FSRename(best->path, app, false) != 0) {
+    static_cast<void>(FreeAppPath(paths));  // If this fails, the renaming fails as well.
+    if (FSRename(best->path, paths.app, false) != 0) {
         LOG_MSG(ERROR, "failed to put back client from '%s' -> '%s'", best->path.c_str(),
-                app.c_str());
+                paths.app.c_str());
         return false;
     }
     LOG_MSG(NOTE, "client was not whole, put back build %s from '%s'",
             std::to_string(best->bundle.build).c_str(), best->path.c_str());
-    RemoveTorsos(backups);
+    RemoveIncompleteBackups(backups, paths.parts);
     return true;
 }
 
@@ -197,8 +150,11 @@ bool IsDotOrDotDot(const std::string& name) {
     return name == "." || name == "..";
 }
 
-// Appends the entries of a folder, "." and ".." left out. False when it cannot be opened. All are
-// read before one is copied, so that a tree thousands of levels deep takes one descriptor.
+// Appends the entries of a folder without "." and "..". Returns false if the folder cannot be
+// opened.
+//
+// FSCopyPath gets all entries before it copies the first one. So only one folder is open at a time,
+// however deep the tree is.
 bool ReadEntries(const std::string& folder, std::vector<DIR_ENTRY>& entries) {
     DIR_HANDLE handle;
     if (FSOpenDir(folder, 0, handle) < 0) {
@@ -214,28 +170,32 @@ bool ReadEntries(const std::string& folder, std::vector<DIR_ENTRY>& entries) {
     return true;
 }
 
-// The path of an empty folder that marks an unfinished move of the older product's data. While it is
-// missing, whatever is in the new data folder is the client's.
+// Returns the path of an empty folder, which exists while a move of the older product's data is
+// unfinished. Without that folder, the new data folder belongs to the client.
 std::string UnfinishedMoveMark() {
-    return NativePath(Service::RegisteredPath("user_lumaport_path") +
+    return NativePath(RegisteredPath("user_lumaport_path") +
                       QLatin1String("/.corvimo_moving_data"));
 }
 
-// Whether data may move to the path: nothing is there, or an empty folder. rmdir is the reliable test:
-// a listing that fails half-way looks like an empty one. It cannot remove a volume of its own.
+// Returns whether data may move to a path, because nothing or an empty folder is there. Removes the
+// empty folder if it can.
+//
+// Listing the folder is no safe test: FSReadDir does not tell a read error from the end of the
+// listing. rmdir fails if the folder is not empty. Only for the root of a volume, which rmdir
+// cannot remove (EBUSY), must a listing do.
 bool IsFree(const std::string& path) {
     std::vector<DIR_ENTRY> entries;
     return IsSurelyMissing(path) || rmdir(path.c_str()) == 0 ||
            (errno == EBUSY && ReadEntries(path, entries) && entries.empty());
 }
 
-// Whether the path is a symbolic link or leads through one. Most stored paths are the given path byte
-// for byte; the second test is for the others.
+// Returns whether a path is a symbolic link or leads through one. The second comparison accepts a
+// path that differs from the stored one only in composed and decomposed characters.
 bool IsReachedThroughLink(const std::string& path, const _FILE_INFO_tag& info) {
     return info.type == FILE_TYPE_LINK || (info.path != path && !IsFileExist(path, true));
 }
 
-// Moves the older product's data. False when data is left behind.
+// Moves the older product's data. Returns false if data stays in the old folder.
 bool MoveData(const std::string& old_data, const std::string& new_data) {
     if (!IsFileExist(old_data, true)) {
         return IsSurelyMissing(old_data);
@@ -244,7 +204,7 @@ bool MoveData(const std::string& old_data, const std::string& new_data) {
     if (!IsFree(new_data) && !IsFileExist(mark, true)) {
         return false;
     }
-    // Without the mark an interrupted move to another volume is not resumed, but nothing is lost.
+    // Without the mark, an interrupted move to another volume is not resumed. No data is lost.
     static_cast<void>(FSMKDir(mark, false));
     return FSRename(old_data, new_data, true) >= 0;
 }
@@ -256,10 +216,8 @@ void Service::SetTimeout(int milliseconds) {
 }
 
 int Service::ExtractPackage() {
-    const std::string package =
-        (RegisteredPath("root_resource_path") + QLatin1String("/package/lumaport.cpk"))
-            .toStdString();
-    const std::string destination = RegisteredPath("user_corvimo_app_path").toStdString();
+    const std::string package = RegisteredPathUtf8("root_resource_path") + "/package/lumaport.cpk";
+    const std::string destination = RegisteredPathUtf8("user_corvimo_app_path");
     if (FSMKDir(destination, true) < 0) {
         LOG_MSG(ERROR, "failed to create folder: '%s'", destination.c_str());
         return -1;
@@ -290,18 +248,18 @@ void Service::LoadTargetVersion() {
 }
 
 int Service::PrepareUserEnv() {
-    const std::string app = user_app_path;
-    const bool has_old_app = HasOldApp(app);
-    const int backup_index = has_old_app ? BackUp(app) : 0;
-    if (backup_index < 0) {
+    const ClientPaths paths = PathsOfClient(user_app_path);
+    const bool has_old_app = HasOldApp(paths.app);
+    const auto backup_index = has_old_app ? BackUp(paths) : std::optional<std::size_t>(0);
+    if (!backup_index.has_value()) {
         return -1;
     }
     if (ExtractPackage() == 0) {
-        RemoveBackups(app, backup_index);
+        RemoveBackups(paths, *backup_index);
         return 0;
     }
     if (has_old_app) {
-        RollBack(app, GetAppBackupDir(app, backup_index));
+        RollBack(paths, paths.backups[*backup_index]);
     } else {
         LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback");
     }
@@ -309,28 +267,20 @@ int Service::PrepareUserEnv() {
 }
 
 void Service::EnsureWholeClient() {
-    const ClientBundle::State state = InspectBundle(user_app_path, PartsOfBundle()).state;
+    const ClientPaths paths = PathsOfClient(user_app_path);
+    const ClientBundle::State state = InspectBundle(paths.app, paths.parts).state;
     if (state == ClientBundle::kWhole ||
-        (state != ClientBundle::kUnknown && PutBackBestBackup(user_app_path))) {
+        (state != ClientBundle::kUnknown && PutBackBestBackup(paths))) {
         ForgetUnfinishedMove();
     }
 }
 
 void Service::RemoveLeftovers() {
-    const BundleParts parts = PartsOfBundle();
-    const bool is_whole = InspectBundle(user_app_path, parts).state == ClientBundle::kWhole;
-    for (const Backup& backup : InspectBackups(user_app_path)) {
-        const ClientBundle::State state = backup.bundle.state;
-        const bool may_go = is_whole || state == ClientBundle::kTorso;
-        if (may_go && !RemoveBundle(backup.path, parts)) {
-            // Where this fails, it is in the way of one backup, and the next start tries again.
-            static_cast<void>(MoveToRandomName(backup.path));
-        }
-    }
+    FreeBackupNames(PathsOfClient(user_app_path));
 }
 
 void Service::ForgetUnfinishedMove() {
-    // Mostly there is none. One that stays is removed by the next start.
+    // The mark rarely exists. If it cannot be removed, the next start tries again.
     static_cast<void>(rmdir(UnfinishedMoveMark().c_str()));
 }
 
@@ -349,11 +299,11 @@ void Service::MigrateService() {
     _FILE_INFO_tag old;
     const bool is_known = GetFileInfo(old_folder, old) == 0;
     if (is_known && (!old.exists || IsReachedThroughLink(old_folder, old))) {
-        return;  // What lies behind a symbolic link may be used by others, too.
+        return;  // Other programs may use the folder that a symbolic link leads to.
     }
     if (!is_known || (old.type == FILE_TYPE_DIR && !MoveData(old_data, new_data))) {
         LOG_MSG(ERROR, "Failed to move data to Corvimo folder");
-        return;  // Removing the old folder now would destroy the data that is still in it.
+        return;  // The old folder still holds data, so it must not be removed.
     }
     if (FSRemove(old_folder, false) < 0) {
         LOG_MSG(ERROR, "Failed to remove old .Lumaport folder");
@@ -361,11 +311,9 @@ void Service::MigrateService() {
 }
 
 void Service::RemoveAgedFolders() {
-    const std::string path =
-        (RegisteredPath("user_lumaport_path") + QLatin1String("/app")).toStdString();
+    const std::string path = RegisteredPathUtf8("user_lumaport_path") + "/app";
     LOG_MSG(INFO, "removing aged app folder %s", path.c_str());
-    // What cannot be removed is tried again on the next start.
-    static_cast<void>(FSRemove(path, false));
+    static_cast<void>(FSRemove(path, false));  // The next start removes what stays.
 }
 
 int Service::FSCopyPath(const std::string& src, const std::string& dst) {
@@ -411,10 +359,6 @@ int Service::CopyFolder(const std::string& src, const std::string& dst) {
         }
     }
     return 0;
-}
-
-QString Service::RegisteredPath(const char* key) {
-    return UIPathManager::getInstance()->getPath(QLatin1String(key));
 }
 
 QString Service::GetUserInstallPath() {

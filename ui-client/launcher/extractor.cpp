@@ -23,8 +23,8 @@ const std::string kLogComponent = "extractor_debug";
 
 constexpr std::size_t kReadBlockSize = 10240;
 
-// An object in the way of an entry is replaced; modes less the umask are kept, times and owners
-// not.
+// An existing object at the path of an entry is replaced. Modes are set, less the umask. Times and
+// owners are not set.
 constexpr int kWriterOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
@@ -37,7 +37,7 @@ struct FreeWriter {
 using Reader = std::unique_ptr<archive, FreeReader>;
 using Writer = std::unique_ptr<archive, FreeWriter>;
 
-// libarchive gives no text where it has none to give.
+// Returns the text of a handle's last error, or an empty text where libarchive returns null.
 const char* ErrorString(archive* handle) {
     const char* const text = archive_error_string(handle);
     return text != nullptr ? text : "";
@@ -45,7 +45,7 @@ const char* ErrorString(archive* handle) {
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-// The one place that names the deprecated call: archive_read_support_filter_all does the same.
+// This call is deprecated, and does the same as archive_read_support_filter_all.
 void EnableAllCompressions(archive* reader) {
     archive_read_support_compression_all(reader);
 }
@@ -55,7 +55,7 @@ bool HasArguments(const Extractor& extractor) {
     return !extractor.destination.empty() && !extractor.archive_path.empty();
 }
 
-// Refuses anything but a regular file: opening a FIFO waits for another process.
+// Opens a regular file only, because opening a FIFO waits for another process.
 int OpenArchive(archive* reader, const std::string& path) {
     struct stat status;
     if (stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
@@ -65,7 +65,7 @@ int OpenArchive(archive* reader, const std::string& path) {
     return archive_read_open_filename(reader, path.c_str(), kReadBlockSize);
 }
 
-// Opens the archive for a look at its entries. None after a failure, which is logged.
+// Opens the archive for reading its entries. Logs a failure and returns null.
 Reader OpenForReading(const Extractor& extractor) {
     if (!HasArguments(extractor)) {
         LOG_MSG(ERROR, "Invalid argument");
@@ -85,12 +85,12 @@ Reader OpenForReading(const Extractor& extractor) {
     return reader;
 }
 
-// A hard link names another entry, so its target lies under the destination as the entry itself
-// does. False when the destination cannot be resolved.
+// Puts the destination in front of a hard link's target, which is the name of another entry.
+// Returns false if the destination cannot be resolved.
 //
-// The target gets the destination without symbolic links among its folders: libarchive removes every
-// one that it meets there, and those above the destination are the person's.
-bool MoveLinkUnder(std::string destination, archive_entry* entry) {
+// libarchive removes every symbolic link on the path of a hard link's target. So the target gets
+// the stored path of the destination: a symbolic link above the destination belongs to the user.
+bool MoveLinkTargetUnder(std::string destination, archive_entry* entry) {
     const char* const linked = archive_entry_hardlink(entry);
     if (linked == nullptr) {
         return true;
@@ -102,8 +102,10 @@ bool MoveLinkUnder(std::string destination, archive_entry* entry) {
     return true;
 }
 
-// archive_read_extract2 below the destination. Refuses a path longer than the system takes: libarchive
-// would make it by changing the process's working folder, and nobody could use or remove the file.
+// Extracts an entry below the destination. Returns the status of archive_read_extract2.
+//
+// Refuses a path that is too long for the system. libarchive would create it by changing the
+// process's working folder, and no program could use or remove the file by its path.
 int ExtractUnder(const std::string& destination, const char* name, archive* reader,
                  archive_entry* entry, archive* writer) {
     const std::string path = destination + "/" + name;
@@ -111,7 +113,7 @@ int ExtractUnder(const std::string& destination, const char* name, archive* read
         archive_set_error(writer, ENAMETOOLONG, "Path too long");
         return ARCHIVE_FAILED;
     }
-    if (!MoveLinkUnder(destination, entry)) {
+    if (!MoveLinkTargetUnder(destination, entry)) {
         archive_set_error(writer, ENOENT, "Cannot resolve '%s'", destination.c_str());
         return ARCHIVE_FAILED;
     }
@@ -119,7 +121,8 @@ int ExtractUnder(const std::string& destination, const char* name, archive* read
     return archive_read_extract2(reader, entry, writer);
 }
 
-// libarchive leaves the writer's text empty where the reader or the disk has failed.
+// Logs the writer's error, and the reader's if the writer has none: libarchive sets only the
+// reader's error when reading fails.
 void LogFailedExtraction(archive* reader, archive* writer) {
     const char* const text = ErrorString(writer);
     LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'", text);
@@ -154,7 +157,7 @@ int Extractor::List() const {
     while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
         const char* const name = archive_entry_pathname(entry);
         std::printf("%s\n", name != nullptr ? name : "");
-        static_cast<void>(std::fflush(stdout));  // A listing is for a person who sees it end.
+        static_cast<void>(std::fflush(stdout));  // The result does not depend on the output.
         archive_read_data_skip(reader.get());
     }
     archive_read_close(reader.get());
@@ -174,7 +177,7 @@ int Extractor::Extract() {
         LOG_MSG(ERROR, "Failed to calculate total file numbers, ret: %d", total);
         return -1;
     }
-    Writer writer;  // Declared first, so that it is freed after the reader.
+    Writer writer;  // Declared before the reader, so that it is freed after it.
     const Reader reader(archive_read_new());
     if (reader != nullptr) {
         writer.reset(archive_write_disk_new());

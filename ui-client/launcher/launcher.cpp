@@ -12,6 +12,7 @@
 #include "lib/log.h"
 #include "mac/mac-service.h"
 #include "notify_adapter.h"
+#include "registered_path.h"
 #include "strtable.h"
 
 #define LOG_SOURCE "launcher"
@@ -20,14 +21,16 @@ namespace {
 
 const std::string kLogComponent = "launcher_debug";
 
-// Support's tools find these records by their line, so it does not follow the code.
+// The support team's tools recognise these records by their line numbers. So the numbers are fixed,
+// and are not the lines of this file.
 constexpr int kLineRunning = 89;
 constexpr int kLineNoNeed = 94;
 constexpr int kLineFailed = 101;
 constexpr int kLineDone = 117;
 
-// Removing a tree takes stack for each of its levels, and a path has room for two thousand of them;
-// what the system gives a thread by itself may be an eighth of this.
+// `FSRename` to another volume, and libarchive for missing parent folders, recurse once for each
+// level of folders, and a path of 4,096 bytes can have about 2,000 levels. The default stack of a
+// thread may be too small for that: it is 512 KiB on macOS.
 constexpr unsigned kWorkerStackBytes = 4 << 20;
 
 constexpr int kBarMaximum = 100;
@@ -35,7 +38,7 @@ constexpr double kDesignWidth = 400.0;
 constexpr double kDesignHeight = 80.0;
 
 int Percentage(int total, int steps) {
-    // Wider than the arguments, so that the product cannot overflow.
+    // The product is computed in 64 bits, because it can overflow 32 bits.
     const int64_t percentage = int64_t{steps} * kBarMaximum / total;
     return static_cast<int>(std::clamp<int64_t>(percentage, std::numeric_limits<int>::min(),
                                                 std::numeric_limits<int>::max()));
@@ -51,16 +54,12 @@ void HandlerThread::run() {
     exec();
 }
 
-Worker::Worker() {
-    service_ = new MacService;
-    handler_thread_ = new HandlerThread;
-    moveToThread(handler_thread_);
+Worker::Worker()
+    : service_(std::make_unique<MacService>()), handler_thread_(std::make_unique<HandlerThread>()) {
+    moveToThread(handler_thread_.get());
 }
 
-Worker::~Worker() {
-    delete handler_thread_;
-    delete service_;
-}
+Worker::~Worker() = default;
 
 void Worker::StartThread() {
     handler_thread_->start(QThread::InheritPriority);
@@ -87,7 +86,7 @@ void Worker::HandleServicce() {
     } else {
         LOG_MSG_AT(kLineNoNeed, DEBUG, "no need to upgrade");
     }
-    // The person gets a client that starts, whatever became of the installation.
+    // These two steps follow even if the installation has failed: the user gets a running client.
     service_->RemoveAgedFolders();
     service_->PostUpgrade();
     LOG_MSG_AT(kLineDone, DEBUG, "done");
@@ -103,16 +102,16 @@ void Worker::InstallPackage() {
         return;
     }
     LOG_MSG_AT(kLineFailed, ERROR, "Failed to upgrade package");
-    // Putting the old client back may have failed, too.
+    // The roll-back of the failed installation may have failed, too.
     service_->EnsureWholeClient();
 }
 
-// Given no text for a cancel button, the base makes none, and so has nothing to measure.
+// A null text for the cancel button makes QProgressDialog create no such button.
 ProcessingProgressDialog::ProcessingProgressDialog()
     : QProgressDialog(QString(), QString(), 0, kBarMaximum) {
     const QFont application_font = QApplication::font();
-    const QString icon_path = Service::RegisteredPath("root_resource_path") +
-                              QLatin1String("/images/ico_72_lumaport.png");
+    const QString icon_path =
+        RegisteredPath("root_resource_path") + QLatin1String("/images/ico_72_lumaport.png");
     setWindowTitle(StrTable::LoadStr(StrTable::kAppName));
     setWindowIcon(QIcon(icon_path));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
@@ -135,7 +134,9 @@ void ProcessingProgressDialog::closeEvent(QCloseEvent* event) {
     event->ignore();
 }
 
-Launcher::Launcher() : worker_(new Worker), dialog_(new ProcessingProgressDialog) {
+Launcher::Launcher() {
+    worker_ = std::make_unique<Worker>();
+    dialog_ = std::make_unique<ProcessingProgressDialog>();
     dialog_->setCancelButton(nullptr);
     dialog_->setAutoReset(false);
     dialog_->setModal(false);
@@ -144,21 +145,21 @@ Launcher::Launcher() : worker_(new Worker), dialog_(new ProcessingProgressDialog
 
 void Launcher::ConnectAll() {
     Notify_Adapter* const adapter = Notify_Adapter::GetInstance();
-    connect(this, SIGNAL(sigStart()), worker_, SLOT(HandleServicce()));
-    connect(worker_, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()));
-    connect(worker_, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()));
-    connect(worker_, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
-    connect(worker_, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)));
+    connect(this, SIGNAL(sigStart()), worker_.get(), SLOT(HandleServicce()));
+    connect(worker_.get(), SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()));
+    connect(worker_.get(), SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()));
+    connect(worker_.get(), SIGNAL(sigUpdateProgress(int, int)), this,
+            SLOT(UpdateProgress(int, int)));
+    connect(worker_.get(), SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)));
     connect(adapter, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
     connect(adapter, SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString)));
 }
 
 Launcher::~Launcher() {
-    // When the event loop was ended by anything but the worker, an installation may be half-way.
+    // If something other than `LaunchDone` has ended the event loop, the worker may still be
+    // installing.
     worker_->QuitThread();
     worker_->JoinThread();
-    delete worker_;
-    delete dialog_;
 }
 
 void Launcher::Run() {
@@ -170,14 +171,14 @@ void Launcher::Start() {
         Q_EMIT sigStart();
         return;
     }
-    // The system has given no thread, so the worker's sequence runs on this one. It waits for the event
-    // loop: before the loop has begun, the call that ends the application has no effect.
+    // The system could not create a thread, so the steps run on the main thread. A timer starts
+    // them from the event loop, because QCoreApplication::quit has no effect before the loop runs.
     startTimer(0);
 }
 
 void Launcher::timerEvent(QTimerEvent* event) {
     killTimer(event->timerId());
-    QMetaObject::invokeMethod(worker_, "HandleServicce", Qt::DirectConnection);
+    QMetaObject::invokeMethod(worker_.get(), "HandleServicce", Qt::DirectConnection);
 }
 
 void Launcher::LaunchDone() {

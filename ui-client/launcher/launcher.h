@@ -1,15 +1,18 @@
-// The control spine of a run: the worker that installs, on a thread of its own, and the progress
-// dialog that follows it on the main thread.
+// The objects of one run: a worker that installs the client on a thread of its own, and a progress
+// dialog on the main thread.
+//
+// None of these objects has a Qt parent. Their owners are unique_ptr members and `main`.
 #pragma once
 
 #include <QObject>
 #include <QProgressDialog>
 #include <QString>
 #include <QThread>
+#include <memory>
 
 class Service;
 
-/// The worker's thread: nothing but an event loop.
+/// The worker's thread. It only runs an event loop.
 class HandlerThread : public QThread {
     Q_OBJECT
 
@@ -20,10 +23,10 @@ protected:
     void run() override;
 };
 
-/// Runs the installation service through its fixed sequence.
+/// Runs the steps of the installation service in their fixed order.
 ///
-/// Made on the main thread; belongs to its own thread from then on. It is destroyed on the main
-/// thread after its own thread has finished.
+/// The constructor and the destructor run on the main thread, everything else runs on the worker's
+/// own thread. The thread must have ended before the destructor runs.
 class Worker : public QObject {
     Q_OBJECT
 
@@ -31,19 +34,24 @@ public:
     Worker();
     ~Worker() override;
 
-    /// Starts the thread, unless the system refuses to make another one.
+    /// Starts the thread. If the system cannot create a thread, nothing happens.
     void StartThread();
+
+    /// Returns whether the thread has started and has not ended yet.
     bool IsThreadRunning() const;
+
+    /// Asks the thread's event loop to end, and does not wait for that.
     void QuitThread();
 
-    /// Waits without a limit until the thread has finished. Returns at once if it never started.
+    /// Waits without a time limit until the thread has ended. Returns at once if it never started.
     void JoinThread();
 
 Q_SIGNALS:
-    /// The sequence is over; the last thing that it does.
+    /// Comes last: all steps are done.
     void sigServiceDone();
-    /// An installation begins.
+    /// Comes before an installation.
     void sigShowMsg();
+    /// Reports that `steps` of `total` steps are done.
     void sigUpdateProgress(int total, int steps);
     void sigSetLabelText(const QString& text);
 
@@ -53,23 +61,25 @@ private Q_SLOTS:
 private:
     void InstallPackage();
 
-    HandlerThread* handler_thread_;  ///< Owned.
-    Service* service_;               ///< Owned.
+    // Members are destroyed in reverse order: first the thread, then the service that ran on it.
+    std::unique_ptr<Service> service_;
+    std::unique_ptr<HandlerThread> handler_thread_;
 };
 
-/// The small window that is shown while a package is installed: a label and a bar from 0 to 100.
+/// The small window that shows the progress of an installation: a label, and a bar from 0 to 100.
 class ProcessingProgressDialog : public QProgressDialog {
     Q_OBJECT
 
 public:
-    /// Takes its texts from the string table, its icon from the folder registered for the
-    /// launcher's resources and its font from the application.
+    /// Takes the texts from the string table, the icon from the launcher's resources and the font
+    /// from the application. The dialog is hidden at first.
     ProcessingProgressDialog();
 
-    /// Does nothing: no key and no window button ends what the dialog shows.
+    /// Does nothing, so that the Escape key does not hide the dialog.
     void reject() override;
 
 protected:
+    /// Ignores the event, so that the window system does not close the dialog.
     void closeEvent(QCloseEvent* event) override;
 };
 
@@ -78,22 +88,28 @@ class Launcher : public QObject {
     Q_OBJECT
 
 public:
-    /// The path registry and the string table must be filled before.
+    /// Needs a filled path registry and a filled string table.
     Launcher();
+
+    /// Waits until the worker's thread has ended.
     ~Launcher() override;
 
     /// Starts the worker's thread.
     void Run();
 
-    /// Has the worker begin: on its own thread, or where the system refused to make one, on the main
-    /// thread once the event loop runs. The application quits when the worker is done.
+    /// Starts the worker's steps; to be called after `Run`. The application quits when they are
+    /// done.
+    ///
+    /// If the system could not create the worker's thread, the steps run on the main thread as soon
+    /// as its event loop runs.
     void Start();
 
 Q_SIGNALS:
+    /// Makes the worker run its steps on its own thread.
     void sigStart();
 
 protected:
-    /// Runs the worker's sequence on the main thread.
+    /// Runs the worker's steps on the main thread.
     void timerEvent(QTimerEvent* event) override;
 
 private Q_SLOTS:
@@ -105,6 +121,8 @@ private Q_SLOTS:
 private:
     void ConnectAll();
 
-    Worker* worker_;                    ///< Owned.
-    ProcessingProgressDialog* dialog_;  ///< Owned.
+    // Members are destroyed in reverse order: the worker, whose signals change the dialog, ends
+    // first.
+    std::unique_ptr<ProcessingProgressDialog> dialog_;
+    std::unique_ptr<Worker> worker_;
 };

@@ -14,6 +14,7 @@
 #include "launcher.h"
 #include "lib/log.h"
 #include "lib/platform/platform.h"
+#include "registered_path.h"
 #include "strtable.h"
 
 #define LOG_SOURCE "main"
@@ -25,8 +26,10 @@ const std::string kLogComponent = "launcher_debug";
 constexpr int kLogFiles = 50;
 constexpr int kFontPointSize = 12;
 
-// Support's tools find these records by their line, so it does not follow the code. Four of the
-// keys belong to other programs of the client and have no value here.
+// The support team's tools recognise these records by their line numbers. So the numbers are fixed,
+// and are not the lines of this file.
+//
+// The launcher never registers four of these keys. Their records show an empty path.
 constexpr int kLineAlreadyLaunched = 154;
 struct LoggedPath {
     int line;
@@ -42,7 +45,7 @@ constexpr LoggedPath kLoggedPaths[] = {
     {112, "root_resource_path"},
 };
 
-// Where everything of the user's lies below the home folder, by registry key.
+// The registered paths below the user's home folder.
 struct UserPath {
     const char* key;
     const char* path;
@@ -62,14 +65,15 @@ void RegisterPath(const char* key, const QString& path) {
     UIPathManager::getInstance()->setPath(QLatin1String(key), QDir::cleanPath(path));
 }
 
-// Runs before the application object exists, which loads the window system's plug-in from this
-// path.
+// Lets Qt load plug-ins only from the bundle's folder. Must run before the application object is
+// made, because its constructor loads the window system's plug-in.
 void UseBundledPlugins(const char* executable) {
     const QString path =
         QDir::cleanPath(QString::fromUtf8(executable) + QLatin1String("/../../Frameworks/plugins"));
     QCoreApplication::setLibraryPaths({path});
     std::printf("lib path = '%s'\n", path.toUtf8().constData());
-    // Without a plug-in Qt aborts, and the text would be lost that tells why.
+    // Qt aborts if it finds no plug-in, and abort() does not flush. Without this flush, the line
+    // that names the searched folder would be lost.
     static_cast<void>(std::fflush(stdout));
 }
 
@@ -84,20 +88,22 @@ void RegisterPaths() {
 void LogPaths() {
     for (const LoggedPath& entry : kLoggedPaths) {
         LOG_MSG_AT(entry.line, INFO, ">>> %s = %s", entry.key,
-                   Service::RegisteredPath(entry.key).toUtf8().constData());
+                   RegisteredPathUtf8(entry.key).c_str());
     }
 }
 
-// Without its folder the logger keeps writing what matters most to standard error.
+// Creates the log folder and opens the log file there. If the folder cannot be created, the logger
+// stays in its initial state: it writes records of WARNING and more severe to standard error.
 void StartLogging() {
     const QString levels =
-        Service::RegisteredPath("root_resource_path") + QLatin1String("/log/launcher.debug");
-    const QString folder = Service::RegisteredPath("user_corvimo_path") + QLatin1String("/log");
+        RegisteredPath("root_resource_path") + QLatin1String("/log/launcher.debug");
+    const QString folder = RegisteredPath("user_corvimo_path") + QLatin1String("/log");
     if (!QDir().mkpath(folder)) {
         return;
     }
     const QString file = folder + QLatin1String("/launcher.log");
-    // A logger that cannot start stays silent, and the person's client comes first.
+    // If the log file cannot be opened, nothing is logged. The run goes on, because starting the
+    // client matters more than a log.
     static_cast<void>(Logger::Initialize(Logger::TYPE_FILE, file.toStdString(),
                                          levels.toStdString(), kLogFiles, Logger::SCOPE_PROCESS));
     LogPaths();
@@ -105,12 +111,13 @@ void StartLogging() {
 
 void InstallTranslation(const QString& language) {
     auto translator = std::make_unique<QTranslator>();
-    // A language without a file leaves the translator empty.
+    // If the language has no translation file, the translator stays empty.
     static_cast<void>(translator->load(QLatin1String(":/") + language + QLatin1String(".qm")));
     if (translator->isEmpty()) {
         return;
     }
-    // It lives with the process; the pointer to it stays for the leak checker to find.
+    // Qt uses the translator until the process ends, so nothing deletes it. The static pointer
+    // keeps it reachable: otherwise the leak checker would report it.
     static QTranslator* const installed = translator.release();
     QCoreApplication::installTranslator(installed);
 }
@@ -131,22 +138,24 @@ int RunLauncher() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Standard output may be a pipe that nobody reads. The others come from a log-out or a closed
-    // terminal: an installation that has begun goes to its end.
+    // Writing to standard output raises SIGPIPE if its reader has ended. The other signals come
+    // with a log-out or a closed terminal, and must not end an installation half-way.
     for (const int signal : {SIGPIPE, SIGTERM, SIGHUP, SIGINT}) {
         static_cast<void>(std::signal(signal, SIG_IGN));
     }
-    // A parent that ignored it would leave us without the results of the tools that we start.
+    // A process inherits an ignored SIGCHLD from its parent. While SIGCHLD is ignored, waitpid does
+    // not return the exit status of the tools that the service starts.
     static_cast<void>(std::signal(SIGCHLD, SIG_DFL));
-    // An environment that names no installed locale leaves the C locale, which serves as well.
+    // If the environment names a locale that is not installed, this call fails and the "C" locale
+    // stays. Only the character type matters here, and the next call sets it.
     static_cast<void>(std::setlocale(LC_ALL, ""));
     PlatformUseUtf8CharacterType();
     Q_INIT_RESOURCE(texts);
     UseBundledPlugins(argv[0]);
     QtSingleApplication application(argc, argv, true);
-    QApplication::setQuitOnLastWindowClosed(false);  // Only the worker ends the run.
-    PlatformUseUtf8CharacterType();  // The application object has set the environment's locale
-                                     // again.
+    QApplication::setQuitOnLastWindowClosed(false);  // Only Launcher::LaunchDone ends the run.
+    // The constructor of the application object has called setlocale(LC_ALL, "") again.
+    PlatformUseUtf8CharacterType();
 
     RegisterPaths();
     StartLogging();

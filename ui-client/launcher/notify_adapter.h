@@ -3,22 +3,22 @@
 #include <QObject>
 #include <QString>
 
-/// Lets code that holds no reference to the user interface report progress and texts to it: each
-/// call becomes one signal with the same arguments, and nothing more.
+/// Reports progress and texts to the user interface, for code without a reference to it. Each call
+/// emits one signal with the same arguments.
 ///
-/// The instance belongs to the thread of the first `GetInstance`. The other calls may come from any
-/// thread; a receiver on another thread gets them queued, in the order of the calls of one thread.
+/// The instance belongs to the thread that calls `GetInstance` first. Any thread may report. A
+/// receiver on another thread gets the reports queued, and those of one thread in their order.
 class Notify_Adapter : public QObject {
     Q_OBJECT
 
 public:
-    /// The single instance; it lives until the process ends and is never deleted by a caller.
+    /// Returns the only instance. It lives until the process ends, and the caller does not own it.
     static Notify_Adapter* GetInstance();
 
     /// Reports that `current` of `total` steps are done.
     void UpdateProgress(int total, int current);
 
-    /// Reports the text to show beside the progress.
+    /// Reports the text to show with the progress.
     void UpdateDialogText(QString text);
 
 Q_SIGNALS:

@@ -23,7 +23,7 @@ constexpr bool HasKey(int id, std::string_view key) {
     return kRows[id].key == key;
 }
 
-// Code addresses rows by id, so a shifted row must not compile.
+// Code uses rows by id. A catalogue in which these rows have moved must not compile.
 static_assert(std::size(kRows) == StrTable::kCount);
 static_assert(HasKey(StrTable::kReady, "desc_lmpt_env_preparation_done_corvimo"));
 static_assert(HasKey(StrTable::kInitializing, "desc_lmpt_env_preparing_corvimo"));

@@ -4,41 +4,41 @@
 
 #include "strtable_count.h"  // Made from the catalogue by the build.
 
-/// The client's user-interface texts. A text has a fixed numeric id, a stable key and an English
-/// source text, which is what Qt's translators look up. The rows come from texts/catalogue.txt.
+/// The texts of the client's user interface. A text has a fixed numeric id, a fixed key and an
+/// English source text, which Qt's translators look up. The rows come from texts/catalogue.txt.
 ///
-/// Threads: InitStrTable() runs before a second thread exists; afterwards the tables are only read,
-/// so every other function may be called from any thread without a lock.
+/// `InitStrTable` must run before a second thread exists. Afterwards the tables are only read, so
+/// any thread may call the other functions without a lock.
 class StrTable {
 public:
-    /// Number of rows; ids are 0 to kCount - 1.
+    /// The number of rows. Ids are 0 to kCount - 1.
     static constexpr int kCount = kStrTableCount;
 
-    /// Ids of the rows that the launcher shows.
+    /// The ids of the rows that the launcher shows.
     static constexpr int kReady = 523;         ///< "%1 is ready.", %1 is the product name
     static constexpr int kInitializing = 539;  ///< "%1 is initializing...", %1 is the product name
     static constexpr int kAppName = 866;       ///< the product name
 
     StrTable() = delete;
 
-    /// Fills both tables. Every other function here needs it to have run; running it again changes
-    /// nothing.
+    /// Fills both tables. Must run before the other functions. Running it again changes nothing.
     static void InitStrTable();
 
-    /// The text to show for `id`, which must be in 0 to kCount - 1: its translation by the
-    /// application's installed translators, or the English text where they have none. In either,
-    /// each two-character sequence backslash-n has become a line break and each backslash-t a tab.
-    /// Placeholders are still in place, for QString::arg.
+    /// Returns the text to show for `id`, which must be in 0 to kCount - 1: the translation by the
+    /// application's installed translators, or the English text if they have none.
+    ///
+    /// Each two-character sequence backslash-n is replaced by a line break, and each backslash-t by
+    /// a tab. Placeholders such as "%1" stay, for QString::arg.
     static QString LoadStr(int id);
 
-    /// The same with the product's name in the place of "%1".
+    /// Returns the same text with the product's name instead of "%1".
     static QString LoadStrWithAppName(int id);
 
-    /// The id whose key equals `key` without regard to case, or -1 when there is none.
+    /// Returns the id of a key, compared without regard to case, or -1 if there is no such key.
     static int LookupStrID(const QString& key);
 
-    /// English texts (UTF-8) and keys (ASCII), by id. The strings live as long as the program; all
-    /// pointers are null until InitStrTable().
+    /// The English texts (UTF-8) and the keys (ASCII), by id. The pointers are null until
+    /// `InitStrTable` has run. The strings are never freed.
     static const char* stab[kCount];
     static const char* ktab[kCount];
 };

@@ -3,7 +3,7 @@
 #include <QFileInfo>
 
 VersionFile::VersionFile(const QString& path) {
-    // QSettings opens whatever has the name, and opening a FIFO waits for another process.
+    // QSettings would open a FIFO as well, and then wait for another process.
     if (QFileInfo(path).isFile()) {
         settings_.emplace(path, QSettings::IniFormat);
         settings_->beginGroup(QStringLiteral("Version"));

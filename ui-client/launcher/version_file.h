@@ -1,4 +1,4 @@
-// The version file INFO of a client or of a package: an INI file with the group "Version".
+// The version file INFO of a client or of a package. It is an INI file with the group "Version".
 #pragma once
 
 #include <QSettings>
@@ -6,12 +6,14 @@
 #include <optional>
 #include <string>
 
-/// Reads one INFO file. A file that is missing, cannot be read or is no regular file has no values.
+/// One INFO file.
 class VersionFile {
 public:
+    /// Reads the file. If it is missing, cannot be read or is not a regular file, it has no values.
     explicit VersionFile(const QString& path);
 
-    /// The value of a key in the group "Version", in UTF-8; none when the file does not have the key.
+    /// Returns the value of a key in the group "Version", in UTF-8, or nothing if the file does not
+    /// have the key.
     std::optional<std::string> Value(const char* key) const;
 
 private:

@@ -9,14 +9,15 @@
 #include <chrono>
 #include <cstdlib>
 #include <optional>
-#include <system_error>
 #include <thread>
 
 #include "lib/config.h"
 #include "lib/file/file-op.h"
 #include "lib/log.h"
+#include "lib/platform/error_text.h"
 #include "lib/platform/platform.h"
 #include "lib/platform/process.h"
+#include "registered_path.h"
 
 #define LOG_SOURCE "mac/mac-service"
 
@@ -27,11 +28,16 @@ using std::chrono::system_clock;
 const std::string kLogComponent = "service_debug";
 
 constexpr int kDefaultTimeout = 10000;
+
+// How long the client may take to end after SIGTERM: 15 rounds of one second, each with a probe.
 constexpr int kStopRounds = 15;
 constexpr std::chrono::seconds kRound(1);
-constexpr std::chrono::milliseconds kPauseForParent(5);
 
-// Volumes keep the times of files in units of up to two seconds, and here whole seconds are compared.
+// The pause between two probes of a process that has ended but still has its number.
+constexpr std::chrono::milliseconds kZombiePause(5);
+
+// The tolerance when the time of a file is compared with the start of a process. FAT volumes store
+// times in units of two seconds, and `ModificationTime` drops fractions of a second.
 constexpr std::chrono::seconds kFileTimeTolerance(2);
 
 constexpr const char* kRegistrationTool =
@@ -39,12 +45,12 @@ constexpr const char* kRegistrationTool =
     "lsregister";
 constexpr const char* kOpenTool = "/usr/bin/open";
 
-// The leading decimal number of a text, cut to 32 bits; 0 where there is none.
+// Returns the decimal number at the beginning of a text, cut to 32 bits, or 0 if there is none.
 int32_t LeadingNumber(const std::string& text) {
     return static_cast<int32_t>(std::strtol(text.c_str(), nullptr, 10));
 }
 
-// Reads the client's process id. None when there is nothing to stop.
+// Reads the client's process id from its pid file. Returns nothing if the file names no process.
 std::optional<pid_t> ReadPid(const std::string& pid_file) {
     if (!IsFileExist(pid_file, false)) {
         LOG_MSG(DEBUG, "pid file '%s' does not exist, no need to terminate", pid_file.c_str());
@@ -60,7 +66,8 @@ std::optional<pid_t> ReadPid(const std::string& pid_file) {
         return std::nullopt;
     }
     const pid_t pid = LeadingNumber(value);
-    // The number is checked after it was cut to 32 bits, which may have made 0 or -1 of a large one.
+    // kill() would send a signal to a whole process group for 0 or a negative number. Cutting a
+    // large number to 32 bits can give such a number, so this check comes after it.
     if (pid <= 0) {
         LOG_MSG(NOTE, "pid '%s' in '%s' names no process, nothing to terminate", value.c_str(),
                 pid_file.c_str());
@@ -82,13 +89,16 @@ bool LiesIn(const std::string& folder, const std::string& executable) {
     return FSGetRealPath(stored) == 0 && FSIsParentFolder(stored, executable);
 }
 
-// Whether the process may have written the pid file: it was started before the file was last changed,
-// or it runs a program of the folder. A pid file outlives its client, after a crash or a restart of the
-// system, and then its number may belong to any program of the person.
+// Returns whether a process may be the client that has written the pid file. The file stays behind
+// when the client crashes or the system restarts. The number in it may then belong to any other
+// program.
 //
-// The second condition holds where the clock was set forward while the client ran, which makes its start
-// look later than the file. The first one holds for a client that is run by an interpreter. Where the
-// system tells neither, the process counts as the client.
+// A process may be the client on either of two conditions:
+//  - It was started before the file was last changed. This also holds for a client that is a
+//    script, whose executable is the interpreter.
+//  - Its executable lies in the folder of the file. This also holds when the clock was set forward
+//    while the client ran, which makes its start look later than the change of the file.
+// If the system tells neither the time nor the executable, the process counts as the client.
 bool MayBeClient(const PlatformProcess& process, const std::string& folder,
                  const std::string& pid_file) {
     const auto written = ModificationTime(pid_file);
@@ -101,6 +111,7 @@ bool MayBeClient(const PlatformProcess& process, const std::string& folder,
     return is_old_enough || LiesIn(folder, process.executable);
 }
 
+// Returns whether a process may be the client. Logs which program it is if not.
 bool IsClient(pid_t pid, const std::string& folder, const std::string& pid_file) {
     const PlatformProcess process = PlatformInspectProcess(pid);
     if (pid != getpid() && MayBeClient(process, folder, pid_file)) {
@@ -112,32 +123,33 @@ bool IsClient(pid_t pid, const std::string& folder, const std::string& pid_file)
     return false;
 }
 
-bool IsGone(pid_t pid) {
-    return kill(pid, 0) != 0 && errno == ESRCH;
-}
-
-// Asks the process to end. Returns whether to wait for it: false when it is already gone.
-bool SendSigterm(pid_t pid) {
+// Sends SIGTERM. Returns 0 or the error number: ESRCH if there is no such process. Logs any other
+// error.
+int SendSigterm(pid_t pid) {
     if (kill(pid, SIGTERM) == 0) {
-        return true;
+        return 0;
     }
     const int error = errno;
-    if (error == ESRCH) {
-        return false;
+    if (error != ESRCH) {
+        LOG_MSG(ERROR, "kill: %s (%d)", PlatformErrorText(error).c_str(), error);
     }
-    LOG_MSG(ERROR, "kill: %s (%d)", std::generic_category().message(error).c_str(), error);
-    return true;
+    return error;
+}
+
+// Probes a process. Returns whether it is gone: it has ended, and its parent has waited for it.
+bool IsGone(pid_t pid) {
+    return kill(pid, 0) != 0 && errno == ESRCH;
 }
 
 void SleepSecond() {
     unsigned seconds = 1;
     while (seconds > 0) {
-        seconds = sleep(seconds);  // A signal that arrives meanwhile ends a sleep early.
+        seconds = sleep(seconds);  // A signal ends a sleep early.
     }
 }
 
-// Probes the process and waits for its end, together for at most a second. Returns whether it is gone.
-bool IsGoneWithinRound(pid_t pid, ProcessWatch& watch) {
+// Waits at most one second until a process is gone. Returns whether it is gone.
+bool WaitOneRound(pid_t pid, ProcessWatch& watch) {
     if (IsGone(pid)) {
         return true;
     }
@@ -147,42 +159,44 @@ bool IsGoneWithinRound(pid_t pid, ProcessWatch& watch) {
     }
     const auto end_of_round = std::chrono::steady_clock::now() + kRound;
     if (!watch.WaitForEnd(kRound)) {
-        std::this_thread::sleep_until(end_of_round);  // The wait may have failed.
+        std::this_thread::sleep_until(end_of_round);  // A wait that fails returns early.
         return false;
     }
-    // It has ended, and answers the probe until its parent has waited for it. That may take a moment,
-    // or for ever.
+    // The process has ended. It stays a zombie until its parent waits for it, maybe for ever.
     while (!IsGone(pid)) {
         if (std::chrono::steady_clock::now() >= end_of_round) {
             return false;
         }
-        std::this_thread::sleep_for(kPauseForParent);
+        std::this_thread::sleep_for(kZombiePause);
     }
     return true;
 }
 
-bool IsGoneInTime(pid_t pid, ProcessWatch& watch) {
+// Waits at most `kStopRounds` seconds until a process is gone. Returns whether it is gone.
+bool WaitUntilGone(pid_t pid, ProcessWatch& watch) {
     for (int round = 0; round < kStopRounds; ++round) {
-        if (IsGoneWithinRound(pid, watch)) {
+        if (WaitOneRound(pid, watch)) {
             return true;
         }
     }
     return false;
 }
 
-// Whether the number still names the process that got SIGTERM at that time. A number is not given away
-// before its process has ended.
-bool IsStillSameProcess(pid_t pid, ProcessWatch& watch, system_clock::time_point sigterm_time) {
-    return watch.IsWatching()
-               ? !watch.HasEnded()
-               : PlatformInspectProcess(pid).start_time.value_or(sigterm_time) <= sigterm_time;
+// Returns whether the number still names the process that was inspected at that time. The system
+// gives a number to another process only after the first one has ended.
+bool IsStillSameProcess(pid_t pid, ProcessWatch& watch, system_clock::time_point inspection_time) {
+    if (watch.IsWatching()) {
+        return !watch.HasEnded();
+    }
+    const auto start_time = PlatformInspectProcess(pid).start_time;
+    return !start_time.has_value() || *start_time <= inspection_time;
 }
 
 }  // namespace
 
 MacService::MacService() {
     timeout = kDefaultTimeout;
-    user_app_path = RegisteredPath("user_corvimo_app_path").toStdString();
+    user_app_path = RegisteredPathUtf8("user_corvimo_app_path");
 }
 
 MacService* MacService::GetInstace() {
@@ -240,24 +254,28 @@ void MacService::StopServiceByPath(const QString& folder) {
     if (!pid.has_value()) {
         return;
     }
+    // The watch is made before the inspection. So it cannot watch a process that gets the number
+    // after the inspection.
     ProcessWatch watch(*pid);
-    const auto sigterm_time = system_clock::now();
-    if (!IsClient(*pid, folder.toStdString(), pid_file) || !SendSigterm(*pid) ||
-        IsGoneInTime(*pid, watch)) {
+    const auto inspection_time = system_clock::now();
+    if (!IsClient(*pid, folder.toStdString(), pid_file)) {
         return;
     }
-    if (IsStillSameProcess(*pid, watch, sigterm_time)) {
-        static_cast<void>(kill(*pid, SIGKILL));  // The installation goes on whatever comes of it.
+    if (SendSigterm(*pid) == ESRCH || WaitUntilGone(*pid, watch)) {
+        return;
+    }
+    if (IsStillSameProcess(*pid, watch, inspection_time)) {
+        static_cast<void>(kill(*pid, SIGKILL));  // The installation goes on whether it ends or not.
     }
 }
 
 bool MacService::PerUserBinPathExist() {
-    const std::string path = RegisteredPath("user_corvimo_ui_path").toStdString();
+    const std::string path = RegisteredPathUtf8("user_corvimo_ui_path");
     return access(path.c_str(), F_OK) == 0;
 }
 
 int MacService::LaunchPerUserBin() {
-    const std::string bundle = RegisteredPath("user_corvimo_app_path").toStdString();
+    const std::string bundle = RegisteredPathUtf8("user_corvimo_app_path");
     const pid_t registration =
         PlatformStartTool(PlatformToolPath(kRegistrationTool), {"-u", bundle}, false);
     if (registration < 0 || PlatformWaitForTool(registration) != 0) {

@@ -1,4 +1,4 @@
-// The installation service on macOS.
+// The installation service with the steps that are specific to macOS.
 #pragma once
 
 #include <QString>
@@ -8,44 +8,46 @@
 /// Decides whether to install, stops the running client, installs, and starts the client.
 class MacService : public Service {
 public:
-    /// Reads the path registry.
+    /// Needs a filled path registry.
     MacService();
 
-    /// The instance of the process, made on first use. The launcher makes one of its own instead.
+    /// Returns the instance of the process, which is made on first use. The caller does not own it.
+    /// The launcher does not use it: the worker makes an instance of its own.
     static MacService* GetInstace();
 
-    /// Ends the client whose pid file lies in the per-user folder; see `StopServiceByPath`.
+    /// Stops the client whose pid file lies in the per-user folder; see `StopServiceByPath`.
     void StopService() override;
 
-    /// Stops the running client, moves the older product's data over when the client was never
-    /// installed, and installs the package. Returns what `PrepareUserEnv` returned.
+    /// Stops the running client and installs the package. If the client is not installed yet, also
+    /// stops the older product's client and moves the older product's data. Returns the result of
+    /// `PrepareUserEnv`.
     int HandlePackageUpgrade() override;
 
     void PostUpgrade() override;
     void PreUpgrade() override;
 
-    /// True when the package has the greater build number, or when the per-user client's executable
-    /// is missing. A build number that is missing or no number counts as 0.
+    /// Returns true if the package has the greater build number, or if the per-user client's
+    /// executable is missing. A build that does not begin with a number counts as 0.
     bool IsNeedUpgrade() override;
 
-    /// Ends the client whose pid file `ui.pid` lies in the folder: asks it with SIGTERM, waits up
-    /// to 15 seconds for it to end, then kills it. Returns as soon as it has ended, and in any case
-    /// after that, also when the client is still there.
+    /// Stops the client whose pid file `ui.pid` lies in the folder: sends SIGTERM, waits at most 15
+    /// seconds until the process is gone, then sends SIGKILL and does not wait for that. Returns as
+    /// soon as the process is gone.
     ///
-    /// The pid file is only read. Nothing is signalled when its pid is 0 or below, which would reach
-    /// the launcher's own process group, when it is the launcher's own, or when the process cannot
-    /// have written the file: it was started more than two seconds
-    /// after the file was last changed, and it runs a program
-    /// from outside the folder.
+    /// Only reads the pid file. Sends no signal when its process id is missing, 0 or negative, when
+    /// it is the launcher's own, or when that process cannot have written the file. The latter is
+    /// so when the process was started more than two seconds after the file was last changed, and
+    /// its executable lies outside the folder.
     void StopServiceByPath(const QString& folder);
 
-    /// Whether the per-user client's executable exists.
+    /// Returns whether the per-user client's executable exists.
     bool PerUserBinPathExist();
 
-    /// Unregisters the per-user bundle and opens it as a new instance, without waiting for it.
-    /// Returns 0, or -1 when the opening program could not be started.
+    /// Unregisters the per-user bundle and waits for that; then opens it as a new instance, without
+    /// waiting. Returns 0, or -1 if the tool that opens it could not be started.
     int LaunchPerUserBin();
 
+    /// Call `LoadSourceVersion` and `LoadTargetVersion` of `Service`.
     void LoadSourceVerInfo();
     void LoadTargetVerInfo();
 };
