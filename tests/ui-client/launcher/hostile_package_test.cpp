@@ -1,4 +1,4 @@
-// What is made of a package, and what a hostile one cannot do.
+// What is installed from a package, and what a hostile package cannot do.
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -24,8 +24,8 @@ std::string Levels(int count) {
     return QStringLiteral("d/").repeated(count).toStdString();
 }
 
-// A home with an old client, and everything around it, which no package may touch. From the first such
-// test on this program has few descriptors.
+// A home folder with an old client. No package may change what is around the client. The
+// constructor limits the descriptors of the whole test program.
 struct HostilePackage : testing::Test {
     HostilePackage() {
         const rlimit few = {64, 64};
@@ -37,12 +37,12 @@ struct HostilePackage : testing::Test {
         before = Snapshot(home / ".");
     }
 
-    // Installs the package, looks at what it has made and checks what holds after any package. The old
-    // client is there again afterwards.
-    int Install(const std::function<void()>& look = [] {}) {
+    // Installs the package, and runs `check_app` after a success. Then checks what must hold for
+    // every package, and leaves the old client installed.
+    int Install(const std::function<void()>& check_app = [] {}) {
         const int result = MacService().PrepareUserEnv();
         if (result == 0) {
-            look();
+            check_app();
             EXPECT_EQ(0, FSRemove(home.app, false));
             EXPECT_EQ(around, Snapshot(home / "."));
             home.InstallClient();
@@ -57,7 +57,7 @@ struct HostilePackage : testing::Test {
     TreeSnapshot before;
 };
 
-// How many files and links of a tree are missing in another, or different there.
+// Returns how many files and links of a tree are missing in another tree, or different there.
 std::ptrdiff_t CountDamaged(const TreeSnapshot& whole, const TreeSnapshot& other) {
     return std::count_if(whole.begin(), whole.end(), [&other](const auto& object) {
         const auto found = other.find(object.first);
@@ -67,7 +67,7 @@ std::ptrdiff_t CountDamaged(const TreeSnapshot& whole, const TreeSnapshot& other
 
 }  // namespace
 
-TEST(Package, IsUnpackedOverWhatIsInTheWayButNotOverTheWay) {
+TEST(ExtractPackage, WithOlderFilesInPlaceReplacesThemAndKeepsALinkAboveThem) {
     const PrivateHome home;
     fs::create_directory_symlink("way", home / ".Corvimo");
     WriteDeep(home / "way/Corvimo.app/file", "old and longer");
@@ -120,10 +120,10 @@ TEST_F(HostilePackage, InstallsWholeOrLeavesTheOldClient) {
     }
 }
 
-// Only a 7-Zip archive has checksums over everything: in a tar a content, in a zip a name or a mode may
-// change unnoticed. That is one entry for one byte (and one more where a name becomes another's), and none
-// for a cut, none of which falls between two entries of the tar.
-TEST_F(HostilePackage, DamagedAnywhere) {
+// Only 7-Zip has checksums over everything. A changed byte can change the content of one entry of a
+// tar unnoticed, and the name or the mode of one entry of a zip. A cut is always noticed here,
+// because no cut of the tar falls between two entries.
+TEST_F(HostilePackage, DamagedAnywhereIsRefusedOrInstalledButForOneEntry) {
     std::vector<Entry> entries;
     for (char name = 'a'; name < 'h'; ++name) {
         entries.push_back({std::string("folder/") + name, std::string(700, name)});
@@ -150,8 +150,9 @@ TEST_F(HostilePackage, DamagedAnywhere) {
     }
 }
 
-// The last folders lie deeper than a path reaches: they were made through the link.
-TEST_F(HostilePackage, WhatIsDeeperThanAPathReachesIsRemovedAfterAFailure) {
+// The path of the last 300 folders is longer than the system allows. They are created through the
+// symbolic link.
+TEST_F(HostilePackage, WithFoldersBeyondThePathLimitIsRemovedAfterAFailure) {
     home.Pack({{Levels(1900), "", kFolder},
                {"way", Levels(1900), kSymbolicLink},
                {"way/" + Levels(300), "", kFolder},
@@ -161,7 +162,7 @@ TEST_F(HostilePackage, WhatIsDeeperThanAPathReachesIsRemovedAfterAFailure) {
     EXPECT_EQ(before, Snapshot(home / "."));
 }
 
-TEST_F(HostilePackage, LogsWhyAnEntryCannotBeExtracted) {
+TEST_F(HostilePackage, WithAnEntryThatCannotBeExtractedLogsTheCause) {
     std::string content;
     for (unsigned i = 0; i < 9999; ++i) {
         content += static_cast<char>(i * i >> 7);

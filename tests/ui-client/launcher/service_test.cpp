@@ -22,21 +22,21 @@ namespace {
 
 const std::string kError = "ERROR cloud-service: ";
 
-// No process ever has this number: it is above the largest one that the system gives.
+// No process has this number. It is greater than the largest one of Linux, 4194304.
 constexpr pid_t kNoProcess = 4200000;
 
-// What kill() and sleep() tell the code under test.
+// How kill() and sleep() answer the code under test.
 struct {
     int error_while_alive = ESRCH;
     int probes_alive = 0;
-    pid_t child =
-        0;  // A child of this test, which gets its signals. The other fields mean nothing then.
-    bool is_number_reused = false;  // After the child's end.
+    // A child of this test, to which its signals are sent. The fields above have no meaning then.
+    pid_t child = 0;
+    bool is_number_reused = false;  // By another process, after the child's end.
     std::string calls;              // "SIGNAL " and "sleep:SECONDS ".
 } process;
 
-// A child that ends some time after SIGTERM, or never. It is reaped, by another thread, some time after
-// its end.
+// A child process that ends some time after SIGTERM, or never. Another thread waits for its end,
+// and reaps it some time later.
 class Child {
 public:
     Child(double seconds_to_end, double seconds_to_reap) : pid_(Fork(seconds_to_end)) {
@@ -57,10 +57,10 @@ public:
 private:
     static pid_t Fork(double seconds_to_end) {
         seconds = seconds_to_end;
-        const auto before = signal(SIGTERM, EndLater);  // The child has it from its beginning on.
+        const auto before = signal(SIGTERM, EndLater);  // The child inherits the handler.
         const pid_t pid = fork();
         while (pid == 0) {
-            alarm(300);  // A test that does not end it fails, and does not hang.
+            alarm(300);  // So a test that does not end the child does not hang.
             pause();
         }
         signal(SIGTERM, before);
@@ -82,7 +82,7 @@ double Child::seconds = 0;
 
 }  // namespace
 
-// They take the place of the system's. No signal leaves this program but for its own child.
+// These two functions replace those of the C library. Signals are sent to the child only.
 extern "C" int kill(pid_t pid, int signal) noexcept {
     process.calls += std::to_string(signal) + " ";
     if (pid == process.child && pid > 0) {
@@ -98,8 +98,7 @@ extern "C" unsigned sleep(unsigned seconds) {
     return 0;
 }
 
-// Where the system cannot watch the process.
-TEST(StopService, FollowsTheAnswersOfTheSystem) {
+TEST(StopService, ProcessThatCannotBeWatchedIsProbedEverySecondAndThenKilled) {
     // clang-format off
     const struct { int error, probes_alive; std::string last_call; Records records; } rows[] = {
         {ESRCH,  0, "",   {}},
@@ -121,15 +120,15 @@ TEST(StopService, FollowsTheAnswersOfTheSystem) {
     }
 }
 
-// A busy machine may make a round more of it. The last two rows take 15 seconds each; no other test does.
-TEST(StopService, WaitsUntilTheClientEndsAndNoLonger) {
+// On a busy machine the client may need one round more. Two rows take 15 seconds each.
+TEST(StopService, ClientThatEndsIsNotWaitedForAnyLongerAndAnotherIsKilled) {
     // clang-format off
     const struct { double seconds_to_end, seconds_to_reap; bool is_reused; int status; std::string calls; } rows[] = {
         {0.1, 0,   false, 0,       "15 0 (0 ){1,99}"},  // Far less than a second after its end.
         {1.5, 0,   false, 0,       "15 0 0 (0 )+"},
-        {0.1, 1.5, false, 0,       "15 (0 )+"},         // A zombie is not killed.
+        {0.1, 1.5, false, 0,       "15 (0 )+"},         // It is a zombie for 1.5 s.
         {-1,  0,   false, SIGKILL, "15 (0 ){15}9 "},
-        {0.1, 0,   true,  0,       "15 (0 )+"},         // Nor is what got its number.
+        {0.1, 0,   true,  0,       "15 (0 )+"},         // Another process has its number.
     };
     // clang-format on
     const PrivateHome home;
@@ -139,14 +138,14 @@ TEST(StopService, WaitsUntilTheClientEndsAndNoLonger) {
         WriteDeep(home / ".Corvimo/ui.pid", "pid=" + std::to_string(child.Pid()));
         MacService().StopService();
         EXPECT_EQ(row.status, child.Status());
-        // The probes in the last second are counted, not listed.
+        // The regular expression would take too long for the many probes of a second.
         EXPECT_TRUE(std::regex_match(process.calls.substr(0, 603), std::regex(row.calls)))
             << process.calls;
         EXPECT_EQ(row.status == SIGKILL, process.calls.find('9') != std::string::npos);
     }
 }
 
-TEST(StopService, SignalsOnlyAProcessThatMayHaveWrittenTheFile) {
+TEST(StopService, ProcessThatCannotHaveWrittenThePidFileGetsNoSignal) {
     const PrivateHome home;
     const std::string folder = home / ".Corvimo";
     const std::string path = folder + "/ui.pid";
@@ -186,7 +185,7 @@ TEST(StopService, SignalsOnlyAProcessThatMayHaveWrittenTheFile) {
     EXPECT_EQ(0, child.Status());
 }
 
-TEST(StopService, SignalsNobodyWithoutOneProcess) {
+TEST(StopService, PidFileThatNamesNoProcessSendsNoSignal) {
     const PrivateHome home;
     const std::string path = home / ".Lumaport/ui.pid";
     const std::string source = "NOTE mac/mac-service: ";
@@ -209,7 +208,7 @@ TEST(StopService, SignalsNobodyWithoutOneProcess) {
     }
 }
 
-TEST(IsNeedUpgrade, ComparesTheBuildNumbersOfTheVersionGroups) {
+TEST(IsNeedUpgrade, WithAGreaterBuildOrNoExecutableIsTrue) {
     const std::tuple<std::string, std::string, bool> rows[] = {
         {"99", "101", true}, {"", "", false},    {"12a", "12", false},
         {"x", "0", false},   {"-5", "-4", true}, {"4294967296", "1", true}};
@@ -228,7 +227,7 @@ TEST(IsNeedUpgrade, ComparesTheBuildNumbersOfTheVersionGroups) {
     EXPECT_TRUE(MacService().IsNeedUpgrade());
 }
 
-TEST(PrepareUserEnv, InstallsOnlyWithANameForTheBackup) {
+TEST(PrepareUserEnv, WithoutAFreeBackupNameFailsAndWithOneInstalls) {
     const PrivateHome home;
     home.InstallClient();
     home.Pack({{"new", "101"}});
@@ -251,7 +250,7 @@ TEST(PrepareUserEnv, InstallsOnlyWithANameForTheBackup) {
     EXPECT_EQ(std::vector<std::string>{"Corvimo.app"}, NamesIn(home / ".Corvimo"));
 }
 
-TEST(MigrateService, LosesNoData) {
+TEST(MigrateService, WithNoPlaceForTheDataChangesNothing) {
     const std::tuple<std::string, std::string, std::string> rows[] = {
         {".Corvimo", ".Corvimo/data/file", "Failed to move data to Corvimo folder"},
         {"file/.Corvimo", "file", "Failed to create Corvimo folder"}};
@@ -269,7 +268,7 @@ TEST(MigrateService, LosesNoData) {
     }
 }
 
-TEST(MigrateService, LeavesALinkAloneAndRemovesAFile) {
+TEST(MigrateService, OldFolderThatIsALinkStaysAndAFileIsRemoved) {
     const PrivateHome home;
     const CapturedLog log;
     WriteDeep(home / "elsewhere/data/file", "data");
@@ -281,4 +280,30 @@ TEST(MigrateService, LeavesALinkAloneAndRemovesAFile) {
     MacService().MigrateService();
     EXPECT_FALSE(fs::exists(home / ".Lumaport"));
     EXPECT_EQ(Records(), log.All());
+}
+
+TEST(FSCopyPath, TreeWithAnEntryThatCannotBeCopiedIsCopiedUpToIt) {
+    const PrivateHome home;
+    const CapturedLog log;
+    MacService service;
+    const std::string from = home / "from", to = home / "new/to", link = "/link";
+    WriteDeep(from + "/a/deep/file", "1");
+    WriteFile(from + "/b", "2");
+    EXPECT_EQ(0, service.FSCopyPath(from, to));
+    EXPECT_EQ(Snapshot(from), Snapshot(to));
+    fs::remove_all(to);
+    fs::create_symlink("missing", from + link);
+    EXPECT_EQ(-1, service.FSCopyPath(from, to));
+    for (auto entry = fs::directory_iterator(from); entry->path() != from + link; ++entry) {
+        EXPECT_NE(0U, fs::remove_all(to / entry->path().filename())) << *entry;
+    }
+    EXPECT_TRUE(fs::is_empty(to));
+    EXPECT_EQ(-1, service.FSCopyPath(from + link, to));
+    EXPECT_EQ(-1, service.FSCopyPath(to + link, to));
+    const std::string failed = kError + "FSCopyPath: failed to copy from '" + from + "/link' to '";
+    const Records records = log.All();
+    ASSERT_EQ(5U, records.size());  // The first and the third are of FSCopy.
+    EXPECT_EQ(failed + to + "/link'", records[1]);
+    EXPECT_EQ(failed + to + "'", records[3]);
+    EXPECT_EQ(kError + "FSCopyPath: source path '" + to + "/link' does not exist", records[4]);
 }
