@@ -85,7 +85,7 @@ ClientPaths PathsOfClient(const std::string& app) {
 // Returns whether there is an old bundle to back up. A bundle that cannot be inspected counts as
 // one: otherwise the package would be unpacked over it.
 bool HasOldApp(const std::string& app) {
-    constexpr int kAttempts = 2;  // An inspection may fail once, for want of memory for instance.
+    constexpr int kAttempts = 2;  // The system may refuse one inspection for want of memory.
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         if (IsSurelyMissing(app)) {
             return false;
@@ -120,8 +120,8 @@ void RemoveBackups(const ClientPaths& paths, std::size_t last_index) {
 
 void RollBack(const ClientPaths& paths, const std::string& backup) {
     LOG_MSG(ERROR, "Failed to extract package, rollback to old installation");
-    // If either step fails, the old bundle stays whole under its backup name, and EnsureWholeClient
-    // tries again.
+    // If either step fails, the old bundle stays unchanged under its backup name, and
+    // EnsureWholeClient tries again.
     static_cast<void>(FreeAppPath(paths));
     static_cast<void>(FSRename(backup, paths.app, false));
 }
@@ -180,9 +180,9 @@ std::string UnfinishedMoveMark() {
 // Returns whether data may move to a path, because nothing or an empty folder is there. Removes the
 // empty folder if it can.
 //
-// Listing the folder is no safe test: FSReadDir does not tell a read error from the end of the
-// listing. rmdir fails if the folder is not empty. Only for the root of a volume, which rmdir
-// cannot remove (EBUSY), must a listing do.
+// rmdir is the safe test, because it fails if the folder is not empty. A listing is not as safe:
+// FSReadDir does not tell a read error from the end of the listing. It is used only for the root of
+// a volume, which rmdir cannot remove (EBUSY).
 bool IsFree(const std::string& path) {
     std::vector<DIR_ENTRY> entries;
     return IsSurelyMissing(path) || rmdir(path.c_str()) == 0 ||

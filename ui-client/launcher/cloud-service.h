@@ -57,8 +57,11 @@ public:
     ///
     /// Does nothing if the bundle cannot be inspected. If no backup is whole, everything stays as
     /// it is. Otherwise the incomplete backups are removed after the replacement. No whole bundle
-    /// is removed before another whole one is in place. If this is interrupted or fails, the next
-    /// call starts again. Must be called first in a run, and after a failed installation.
+    /// is removed before another whole one is in place. Calls `ForgetUnfinishedMove` if the bundle
+    /// is whole in the end.
+    ///
+    /// If this is interrupted or fails, the next call starts again. Must be called first in a run,
+    /// and after a failed installation.
     void EnsureWholeClient();
 
     /// Frees the backup names, and the disk space, that interrupted installations have left taken.
@@ -76,11 +79,11 @@ public:
     ///
     /// Returns -1 after a failure, with the old bundle in its place again. What was unpacked is
     /// removed, or renamed to a free backup name or a random name. If the old bundle cannot be put
-    /// back, it is whole under its backup name. If there was no old bundle, what was unpacked
-    /// stays.
+    /// back, it stays unchanged under its backup name. If there was no old bundle, what was
+    /// unpacked stays.
     ///
-    /// If this is interrupted, either the bundle or a backup is whole. The next call of
-    /// `EnsureWholeClient` puts the backup back if the bundle is not whole.
+    /// If the old bundle was whole and this is interrupted, the bundle or a backup is whole. The
+    /// next call of `EnsureWholeClient` puts the backup back if the bundle is not whole.
     virtual int PrepareUserEnv();
 
     /// Moves the data of the older product into the per-user folder, and removes the older

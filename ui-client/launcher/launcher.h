@@ -25,8 +25,9 @@ protected:
 
 /// Runs the steps of the installation service in their fixed order.
 ///
-/// The constructor and the destructor run on the main thread, everything else runs on the worker's
-/// own thread. The thread must have ended before the destructor runs.
+/// The slot `HandleServicce` runs on the worker's own thread, where it also emits the signals. All
+/// public functions are called on the main thread. The worker's thread must have ended before the
+/// destructor runs.
 class Worker : public QObject {
     Q_OBJECT
 
