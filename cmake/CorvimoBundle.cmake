@@ -76,6 +76,7 @@ function(corvimo_bundle_package)
     if(NOT client)
         get_target_property(client example_client CORVIMO_APP)
         get_target_property(stamp example_client CORVIMO_STAMP)
+        add_dependencies(bundle example_client)
     endif()
     add_custom_command(
         OUTPUT ${resources}/package/lumaport.cpk ${resources}/INFO
@@ -85,7 +86,6 @@ function(corvimo_bundle_package)
         DEPFILE ${PROJECT_BINARY_DIR}/bundle/lumaport.cpk.d
         COMMENT "Packing the client ${client}"
         VERBATIM)
-    add_dependencies(bundle example_client)
     corvimo_bundle_part(FILES Resources/package/lumaport.cpk)
     corvimo_bundle_part(FILES Resources/INFO)
 endfunction()

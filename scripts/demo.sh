@@ -162,7 +162,7 @@ show_log() {
 build_everything() {
     heading "Installing what the build needs, and building"
     "$root/scripts/install-dependencies.sh" build test demo
-    (cd "$root" && cmake --preset release && cmake --build --preset release --target bundle)
+    (cd "$root" && cmake --preset release && cmake --build --preset release --target bundle example_client)
 }
 
 choose_display() {
