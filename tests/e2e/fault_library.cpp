@@ -1,21 +1,23 @@
-// Preloaded into the launcher by tests: makes calls of one kind fail, or sends a signal to the process.
+// Tests preload this library into the launcher. It makes calls of one kind fail, or sends a signal
+// to the process.
 //
-// Calls count from the first look at the folder ~/.Corvimo on. What comes before is the start of Qt, which
-// aborts where its window system plug-in cannot be read and has touched nothing then. Reads and writes
-// count for files alone: a pipe and a wake-up of another thread know no errors of a disk.
+// Calls count from the first mkdir of ~/.Corvimo on. Before that, Qt starts: it changes nothing,
+// and it aborts when it cannot read its window system plug-in. Reads and writes count only for
+// files, because pipes and wake-ups of other threads have no errors of a disk.
 //
-// Its environment sets all of these:
+// All of these environment variables have to be set:
 //
-//   FAULT_CALL    the kind, as the wrappers below name it; "change" is every call that changes a disk
+//   FAULT_CALL    the kind, as the wrappers below name it; "change" is every call that changes a
+//                 disk
 //   FAULT_NUMBER  the number of that call among its kind; 0 for none
-//   FAULT_ERROR   the error that it fails with; a negative number is a signal that the process gets
-//                 before the call
-//   FAULT_REPORT  a file that gets how many calls of the kind there were, at an orderly end
+//   FAULT_ERROR   the error that it fails with; a negative number is a signal that the process
+//                 gets before the call
+//   FAULT_REPORT  a file to which an orderly end writes how many calls of the kind there were
 //
-// Two kinds of faults last. "full" is every call that needs room on a disk, and all from that number on
-// fail. "place" is lstat of the installed bundle, and two in a row fail.
+// Two kinds of faults last. "full" is every call that needs room on a disk, and all of them fail
+// from that number on. "place" is lstat of the installed bundle, and two in a row fail.
 //
-// Nothing that the process starts is touched.
+// The programs that the process starts are not affected.
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -65,7 +67,7 @@ bool Counts(const char* call, Effect effect) {
            (kind == "full" && effect == kGrowth);
 }
 
-// Whether this call is to fail, with errno set.
+// Counts a call. Returns true with errno set if it must fail.
 bool Strikes(const char* call, Effect effect) {
     if (!has_begun || !Counts(call, effect)) {
         return false;
@@ -93,7 +95,7 @@ bool IsCalled(const char* path, const char* name) {
     return end != nullptr && std::strcmp(end + 1, name) == 0;
 }
 
-// Whether this look at a folder is the first that counts, or comes after it.
+// Returns whether calls count: from the first mkdir of ~/.Corvimo on.
 bool BeginsAt(const char* folder) {
     has_begun = has_begun || IsCalled(folder, ".Corvimo");
     return has_begun;
@@ -127,7 +129,7 @@ const char* Inspection(const char* path) {
         return Strikes("open", effect) ? -1 : NEXT(name)(path, flags, mode);        \
     }
 
-// Folders inside a tree that is removed.
+// The removal of a tree opens folders with it.
 extern "C" int openat(int folder, const char* path, int flags, ...) {
     return Strikes("opendir", kNone) ? -1 : NEXT(openat)(folder, path, flags);
 }

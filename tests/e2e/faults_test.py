@@ -1,12 +1,12 @@
-"""Whatever fails in one start of the launcher or in several, no data and no client is lost."""
+"""Tests that failures in one or several starts of the launcher lose neither data nor a client."""
 
-# faults_test.py KIND      each call of a kind fails (see world.py), and the next start has a fault, too
+# faults_test.py KIND      each call of a kind (see world.py) fails; the next start has a fault, too
 # faults_test.py rows      sequences of starts that once lost something
 # faults_test.py random    random sequences
-# faults_test.py SEED      one of them again
+# faults_test.py SEED      repeats one random sequence
 #
-# A run takes a sample of the calls and sequences; with CORVIMO_WHOLE_MATRIX set it takes all calls, and
-# many sequences. A random sequence that fails is made shorter as long as it fails.
+# A run tries a sample of the calls, and few sequences; with CORVIMO_WHOLE_MATRIX, all calls and many
+# sequences. A random sequence that fails is shortened as long as it still fails.
 
 import collections
 import random
@@ -19,7 +19,7 @@ from scene import IS_WHOLE, TRIES, main
 from world import FEATURES, KINDS, MISSING, NO_FAULT, Start, World, random_start
 
 KILLED = Start(fault=("change", 40, -SIGKILL))
-# What is there, and the starts. Two healthy starts follow.
+# In each row: the features of the World, and the starts. Two starts without a fault follow.
 ROWS = {
     "killed, then no package": ("installed", KILLED, Start(MISSING)),
     "killed, then a cut package": ("installed", KILLED, Start(0.5)),
@@ -35,7 +35,7 @@ ROWS = {
     "read-only folders, ordinary user": ("installed ordinary", *[Start()] * 11),
 }
 
-# What is there, and the share of the package that is not cut off.
+# In each scenario: the features of the World, and the share of the package that a cut leaves.
 SCENARIOS = {
     "upgrade": ("installed data", None),
     "upgrade with a bad package": ("installed data", 1.0),
@@ -46,10 +46,10 @@ SCENARIOS = {
     "large upgrade": ("installed data large", None),
 }
 RANDOM = "random sequences"
-LARGE_SAMPLE = 200  # Its calls differ little from each other.
+LARGE_SAMPLE = 200  # The large upgrade repeats the same calls for each entry.
 
 
-# Each of these gives cases: a group to count it in, a name, what is there, and the starts.
+# Each of these functions yields cases: the group that counts it, a name, the features, the starts.
 def rows():
     for name, (features, *starts) in ROWS.items():
         yield "rows", name, features, starts
@@ -60,7 +60,7 @@ def random_sequences(seeds):
         rng = random.Random(seed)
         wanted = {rng.choice(["installed", "older"]), *(x for x in FEATURES if rng.random() < 0.2)}
         if "tight" in wanted:
-            wanted.discard("backup")  # It takes the room.
+            wanted.discard("backup")  # A backup fills the tight disk.
         starts = [random_start(rng) for _ in range(rng.randint(3, 8))]
         yield RANDOM, seed, " ".join(sorted(wanted)), starts
 
@@ -87,7 +87,7 @@ def matrix(test, kind):
     test.assertTrue(seen, "no call of this kind")
 
 
-# The case with one thing less.
+# Yields the case without one start, feature, cut or fault, and with earlier faults.
 def simpler_cases(features, starts):
     for i in range(len(starts)):
         yield features, starts[:i] + starts[i + 1 :]
@@ -113,7 +113,7 @@ class FaultsTest(unittest.TestCase):
         return others.get(self.what) or matrix(self, self.what)
 
     def test_loses_nothing(self):
-        results = collections.defaultdict(list)  # Of each try: good, starts, faults.
+        results = collections.defaultdict(list)  # For each try: 1 if good, starts, faults.
         for group, name, features, starts in self.cases():
             results[group].append((0, 0, 0))
             with self.subTest(group, name=name, features=features, starts=starts):
@@ -139,7 +139,7 @@ class FaultsTest(unittest.TestCase):
         finally:
             self.doCleanups()
 
-    # Fails with the shortest case that still fails.
+    # Raises the failure of the shortest case that still fails.
     def shrink(self, features, starts):
         for simpler in simpler_cases(features, starts):
             if self.failure_of(*simpler):
@@ -148,5 +148,6 @@ class FaultsTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    FaultsTest.what = sys.argv.pop()
-    main()
+    names = [*KINDS, "rows", "random"]
+    FaultsTest.what = sys.argv.pop() if sys.argv[1:] != ["list"] else ""
+    main(names)

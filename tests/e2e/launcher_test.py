@@ -1,4 +1,4 @@
-"""The road of one run, from its start to a running client, with what may stand in its way."""
+"""Tests whole runs of the launcher, from its start to a running client."""
 
 import itertools
 import os
@@ -21,19 +21,19 @@ touch "$HOME/held"
 while [ -e "$HOME/held" ] && [ -d "/proc/$TESTER" ]; do sleep 0.05; done
 """
 
-# Notes what it is started with where a client notes its build: the open descriptors, and which of the
-# first 16 signals are ignored (of the last ones the C library uses some itself).
+# Notes its open descriptors and which of the first 16 signals are ignored, where a client notes its
+# build. Of the last signals, the C library uses some itself.
 RECORDER = r"""#!/bin/sh
 signals=$(sed -n 's/^SigIgn:.*\(....\)$/\1/p' /proc/$$/status)
 echo $(ls /proc/self/fd) $signals $$ >>"$HOME/started"
 """
 
-# What an upgrade logs.
-ROAD = pathlib.Path(__file__).with_name("upgrade.log")
+# All records of an upgrade.
+UPGRADE_LOG = pathlib.Path(__file__).with_name("upgrade.log")
 
 
 class LauncherTest(unittest.TestCase):
-    # A machine with a client of build 100 and a launcher that carries build 101.
+    # Returns a scene with a client of build 100 and a launcher that carries build 101.
     def upgrade(self, **options):
         scene = Scene(self, **options)
         scene.install_client("100")
@@ -44,13 +44,13 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(0, scene.run(**variables))
         scene.check_started(*builds)
 
-    # The package is installed, nothing is left over, and the person's data is there.
+    # Checks that the package is installed, no backup is left, and the person's data is there.
     def check_installed(self, scene):
         self.assertEqual(scene.tree, snapshot(scene.home / APP))
         self.assertEqual([], scene.backups())
         self.assertEqual("the person's data", (scene.home / ".Corvimo/data/file").read_text())
 
-    def test_upgrades_a_running_client_whatever_the_home_is_called(self):
+    def test_upgrades_a_running_client_below_any_name_of_the_home_folder(self):
         for home, told, language in (
             ("home", "home", ""),
             ('it\'s "$pecial"', 'it\'s "$pecial"', "C"),
@@ -67,7 +67,7 @@ class LauncherTest(unittest.TestCase):
                 self.assertFalse(os.path.exists(f"/proc/{old_client}"))
                 self.check_installed(scene)
 
-    def test_spares_a_program_that_took_over_the_number(self):
+    def test_does_not_signal_another_program_with_the_pid_of_the_client(self):
         scene = self.upgrade()
         program = subprocess.Popen(["sleep", "1000"])
         self.addCleanup(program.wait)
@@ -83,15 +83,15 @@ class LauncherTest(unittest.TestCase):
             self.assertIn(named, notes[0])
         self.check_installed(scene)
 
-    def test_logs_the_road_of_an_upgrade(self):
+    def test_logs_every_step_of_an_upgrade(self):
         scene = self.upgrade()
         before = signal.signal(signal.SIGCHLD, signal.SIG_IGN)  # As some parents leave it.
         launcher = scene.start()
         signal.signal(signal.SIGCHLD, before)
         self.assertEqual(0, scene.wait_for(launcher))
         scene.check_started("101")
-        road = ROAD.read_text().format(unset="", **vars(scene)).splitlines()
-        self.assertEqual(road, scene.log())
+        expected = UPGRADE_LOG.read_text().format(unset="", **vars(scene)).splitlines()
+        self.assertEqual(expected, scene.log())
 
     def test_stops_the_client_of_the_older_product(self):
         scene = Scene(self)
@@ -104,7 +104,7 @@ class LauncherTest(unittest.TestCase):
         self.check_run(scene, "9", "101")
         self.assertFalse(os.path.exists(f"/proc/{old_client}"))
 
-    def test_puts_back_the_best_backup(self):
+    def test_restores_the_newest_whole_backup_without_a_package(self):
         scene = Scene(self)
         for name, build in ("", 9), ("_tmp", 99), ("_tmp1", 101), ("_tmp2", 102), ("_tmp4", 101):
             scene.install_client(build, APP + name)
@@ -121,7 +121,7 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(["NOTE cloud-service"], [line.partition(":")[0] for line in notes])
         self.assertIn("ERROR launcher(101): Failed to upgrade package", scene.log())
 
-    def test_takes_anything_in_the_place_of_its_small_files(self):
+    def test_upgrades_with_anything_in_place_of_its_small_files(self):
         own = "Launcher.app/Contents/Resources"
         files = "ui.pid", "log/launcher.log", "Corvimo.app/Contents/Resources/INFO"
         paths = [f"{own}/INFO", f"{own}/log/launcher.debug", *(f"home/.Corvimo/{x}" for x in files)]
@@ -143,7 +143,7 @@ class LauncherTest(unittest.TestCase):
                 self.check_run(scene, "100" if name == f"{own}/INFO" else "101")
             self.doCleanups()
 
-    def test_says_which_tools_could_not_be_started(self):
+    def test_logs_which_tools_cannot_be_started(self):
         scene = self.upgrade()
         for tool in (REGISTER, OPEN):
             write(scene.contents / tool, "#!/nowhere", 0o755)
@@ -153,7 +153,7 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual([cannot, failed, "DEBUG launcher(117): done"], scene.log()[-3:])
 
     @unittest.skipIf(os.geteuid() != 0, "without the rights that the launcher must not have")
-    def test_runs_to_its_end_where_nothing_can_be_written(self):
+    def test_ends_with_status_0_where_nothing_can_be_written(self):
         scene = Scene(self)
         scene.carry_client("101")
         write(scene.home / ".Corvimo", "a plain file")
@@ -163,13 +163,14 @@ class LauncherTest(unittest.TestCase):
         scene = self.upgrade()
         write(scene.home / "started", "", 0o666)
         before = snapshot(scene.home / ".Corvimo")
-        # The home folder and the bundle are root's.
-        command = [scene.contents / "MacOS/launcher"]
-        subprocess.run(command, env=scene.environment, user=NOBODY, check=True)
+        command = [scene.contents / "MacOS/launcher"]  # Like the home folder, it belongs to root.
+        options = {"env": scene.environment, "capture_output": True, "text": True}
+        result = subprocess.run(command, user=NOBODY, check=False, **options)
+        self.assertEqual(0, result.returncode, result.stderr)
         scene.check_started("100")
         self.assertEqual(before, snapshot(scene.home / ".Corvimo"))
 
-    def test_leaves_at_once_while_another_runs(self):
+    def test_quits_at_once_while_another_launcher_runs(self):
         for mode in 0o755, 0o775, 0o777:
             with self.subTest(oct(mode)):
                 scene = self.upgrade()
@@ -177,8 +178,7 @@ class LauncherTest(unittest.TestCase):
                 held = scene.home / "held"
                 write(scene.contents / REGISTER, HOLD, 0o755)
                 first = scene.start()
-                while not held.exists():
-                    time.sleep(0.01)
+                scene.wait_until(held.exists)
                 self.check_run(scene)
                 left = "DEBUG main(154): app has already launched, return"
                 self.assertEqual(left, scene.log()[-1])
@@ -186,7 +186,7 @@ class LauncherTest(unittest.TestCase):
                 self.assertEqual(0, scene.wait_for(first))
                 scene.check_started("101")
 
-    def test_keeps_its_descriptors_and_signals_from_the_programs_that_it_starts(self):
+    def test_starts_programs_without_its_descriptors_and_ignored_signals(self):
         scene = self.upgrade()
         for tool in (REGISTER, OPEN):
             write(scene.contents / tool, RECORDER, 0o755)
@@ -196,7 +196,7 @@ class LauncherTest(unittest.TestCase):
             self.addCleanup(signal.signal, number, signal.signal(number, signal.SIG_IGN))
         self.check_run(scene, *[by_hand] * 3)
 
-    def test_removes_a_deep_old_client_whatever_the_limit_on_stacks(self):
+    def test_removes_a_deep_old_client_with_a_small_stack(self):
         scene = self.upgrade()
         path = scene.home / APP
         while len(str(path)) < LONG_PATH:
@@ -210,4 +210,4 @@ class LauncherTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    main()
+    main(unittest.defaultTestLoader.getTestCaseNames(LauncherTest))

@@ -1,4 +1,4 @@
-"""Many launchers, at once and one after another."""
+"""Tests many launchers, at once and one after another."""
 
 import fcntl
 import os
@@ -11,7 +11,7 @@ FULL_LOG = 5242880
 
 class LoadTest(unittest.TestCase):
     def test_one_of_many_launchers_installs(self):
-        # Takes a second to end, in which all of them start.
+        # The client takes a second to end. Meanwhile the other launchers start.
         scene = Scene(self, client=CLIENT_SCRIPT.replace("exit 0", "sleep 1; exit 0"))
         scene.install_client("100")
         tree = scene.carry_client("101")
@@ -46,7 +46,7 @@ class LoadTest(unittest.TestCase):
         count = 1000 if IS_WHOLE else 7 * TRIES
         for _ in range(count):
             self.assertEqual(0, scene.run())
-        with self.assertRaises(ChildProcessError):  # What a run left behind would be our child.
+        with self.assertRaises(ChildProcessError):  # A process that a run left would be our child.
             while True:
                 os.wait()
         self.assertEqual(before, [set(os.listdir(folder)) for folder in folders])
@@ -58,4 +58,4 @@ class LoadTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    main()
+    main(unittest.defaultTestLoader.getTestCaseNames(LoadTest))

@@ -1,5 +1,5 @@
-"""The whole program on a stage of its own: a copy of the bundle, a package, a home folder, real
-clients. Every test program beside this file uses it and ends with `main`."""
+"""Runs the whole program in a temporary folder: a copy of the bundle with a package, a home folder
+and real clients. Every test program in this folder uses it and ends with a call of `main`."""
 
 import contextlib
 import ctypes
@@ -28,11 +28,11 @@ REGISTER = (
 )
 LEVELS = "launcher_debug=7\nservice_debug=7\nextractor_debug=7\nfile_op_debug=4\n"
 
-# How many of everything that is tried on a sample; the environment may ask for all.
-TRIES = int(os.environ["TRIES"])
+# How many of the possible cases a test tries. CORVIMO_WHOLE_MATRIX asks for all of them.
+TRIES = int(os.environ.get("TRIES", 4))
 IS_WHOLE = "CORVIMO_WHOLE_MATRIX" in os.environ
 
-# Keeps a pid file, notes each start with its build number, and ends on SIGTERM.
+# Writes its pid file, notes each start with its build number, and ends on SIGTERM.
 CLIENT_SCRIPT = """\
 #!/bin/sh
 trap 'exit 0' TERM
@@ -42,7 +42,7 @@ echo "$build $$" >>"$HOME/started"
 while [ -d "/proc/$TESTER" ]; do sleep 0.05; done
 """
 
-# Only notes its start, and ends.
+# Notes its start and ends.
 SHORT_CLIENT = """\
 #!/bin/sh
 echo "$(sed -n 's/^build_version=//p' "${0%/*}/../Resources/INFO") $$" >>"$HOME/started"
@@ -53,8 +53,9 @@ RECORD = re.compile(
     r"[\dT:-]{19} \( *\d+: *\d+\) \[(\w+)\] ((?:main|launcher)\(\d+\)|[^ (]+)(?:\(\d+\))?: (.*)"
 )
 
-LIMIT = 120  # Seconds for what takes less than one, or about 15 where a client does not end.
+LIMIT = 120  # Seconds. One run takes less than a second on an idle machine.
 
+APPEND = os.O_CREAT | os.O_WRONLY | os.O_APPEND
 NOBODY = 65534
 PR_SET_CHILD_SUBREAPER = 36
 CLONE_NEWNS = 0x20000
@@ -67,7 +68,7 @@ def write(path, content, mode=0o644):
     path.chmod(mode)
 
 
-# A link's target, a file's mode and content, or "dir".
+# Returns a link's target, a file's mode and content, or "dir".
 def describe(path):
     if path.is_symlink():
         return os.readlink(path)
@@ -76,13 +77,13 @@ def describe(path):
     return stat.S_IMODE(path.stat().st_mode), path.read_bytes()
 
 
-# What a tree holds, by relative path. Two trees are alike when their snapshots are equal.
+# Returns the descriptions of everything in a folder, by relative path.
 def snapshot(folder):
     return {str(path.relative_to(folder)): describe(path) for path in folder.rglob("*")}
 
 
-# Makes an empty folder another volume for the time of a test, which is skipped where that cannot be
-# done. No other process sees it.
+# Mounts an empty volume on a folder until the end of the test. Other processes do not see it. Skips
+# the test where the system does not allow that.
 def mount_volume(test, folder, options):
     if LIBC.unshare(CLONE_NEWNS) or subprocess.call(["mount", "--make-rprivate", "/"]):
         test.skipTest("cannot mount a volume here")
@@ -90,10 +91,11 @@ def mount_volume(test, folder, options):
     test.addCleanup(subprocess.run, ["umount", "--lazy", folder], check=True)
 
 
-# One person's machine. Ends every launcher and client that was started on it when the test is over.
+# The launcher, its package and a home folder. When the test is over, every launcher and client that
+# was started here is ended.
 class Scene:
     def __init__(self, test, home="home", client=CLIENT_SCRIPT):
-        LIBC.prctl(PR_SET_CHILD_SUBREAPER, 1)  # What the launcher leaves behind comes to us.
+        LIBC.prctl(PR_SET_CHILD_SUBREAPER, 1)  # Orphans become our children.
         folder = tempfile.TemporaryDirectory(prefix="corvimo-test-")
         test.addCleanup(folder.cleanup)
         test.addCleanup(self.end_processes)
@@ -108,18 +110,20 @@ class Scene:
         shutil.copytree(os.environ["BUNDLE"], self.folder / "Launcher.app", symlinks=True)
         self.contents = self.folder / "Launcher.app/Contents"
         self.package = self.contents / "Resources/package/lumaport.cpk"
+        self.errors = self.folder / "errors"
         write(self.contents / "Resources/log/launcher.debug", LEVELS)
-        # Nothing that tells of a language or a screen.
+        # Variables that would choose a language or a screen are left out.
         kept = {name: value for name, value in os.environ.items() if "SAN_OPTIONS" in name}
         self.environment = kept | {
             "PATH": os.environ["PATH"],
             "HOME": str(self.home),
-            "TESTER": str(os.getpid()),  # What waits for something ends with it.
+            "TESTER": str(os.getpid()),  # Clients end when it has ended.
             "QT_QPA_PLATFORM": "offscreen",
         }
 
-    # Puts a client of the build into the launcher's package, with more entries (name, mode with type,
-    # content or target) first. Gives the snapshot that it must become.
+    # Packs a client of the build for the launcher. The entries of `extra` come first; each is a
+    # name, a mode with the file type, and a content or a link's target. Returns the snapshot of a
+    # correct installation.
     def carry_client(self, build, extra=()):
         entries = [
             *extra,
@@ -135,7 +139,7 @@ class Scene:
             for name, mode, content in entries:
                 record = zipfile.ZipInfo(name)
                 record.external_attr = mode << 16
-                # Repeats type and mode in front of the data, as the project's packages have it.
+                # Repeats type and mode before the data, as scripts/make-package.sh does.
                 record.extra = struct.pack("<HHBHI", 0x6C78, 7, 0b101, 0x314, mode << 16)
                 package.writestr(record, content)
                 tree.update((str(path), "dir") for path in pathlib.PurePath(name).parents[:-1])
@@ -146,7 +150,7 @@ class Scene:
         write(self.contents / "Resources/INFO", INFO.format(build))
         return tree
 
-    # Installs a client of the build in the home folder, as an earlier run has left it.
+    # Installs a client of the build in the home folder, as an earlier run would have done.
     def install_client(self, build, bundle=APP):
         contents = self.home / bundle / "Contents"
         write(contents / "MacOS/corvimo-ui", self.client, 0o755)
@@ -155,20 +159,25 @@ class Scene:
         write(contents / "Resources/INFO", INFO.format(build))
         write(self.home / ".Corvimo/data/file", "the person's data")
 
-    # Starts the launcher, or another program, and gives its process id.
+    # Starts the launcher, or another program, and returns its process id.
     def start(self, program="MacOS/launcher", **variables):
         path = self.contents / program
         ignored_here = signal.SIGPIPE, signal.SIGXFSZ
         environment = self.environment | variables
-        self.processes.append(os.posix_spawn(path, [path], environment, setsigdef=ignored_here))
+        errors = os.POSIX_SPAWN_OPEN, 2, self.errors, APPEND, 0o600
+        options = {"file_actions": [errors], "setsigdef": ignored_here}
+        self.processes.append(os.posix_spawn(path, [path], environment, **options))
         return self.processes[-1]
 
-    # Runs the launcher to its end and gives its exit status; negative when it crashed.
+    # Runs the launcher to its end and returns its exit status, or the negative number of the signal
+    # that ended it. Prints its standard error when it was neither successful nor killed.
     def run(self, **variables):
-        return self.wait_for(self.start(**variables))
+        status = self.wait_for(self.start(**variables))
+        if status not in (0, -signal.SIGKILL):
+            print(self.errors.read_text())
+        return status
 
-    # Reaps everything that ends meanwhile, as the system's first process does it. Without a process,
-    # waits for all.
+    # Waits for a process, or for all. Reaps every child that ends meanwhile, as init does.
     def wait_for(self, process=None):
         signal.alarm(LIMIT)
         ended = status = 0
@@ -178,21 +187,25 @@ class Scene:
         signal.alarm(0)
         return os.waitstatus_to_exitcode(status)
 
-    # The build and the process id of each client that was started, as it has noted them.
+    # Returns the build and the process id of each client that was started, as it noted them.
     def started(self):
         notes = self.home / "started"
         lines = notes.read_text().splitlines() if notes.exists() else []
         return [line.rsplit(" ", 1) for line in lines]
 
-    # Checks that clients of these builds have started, and none besides them so far. Waits for as many.
-    def check_started(self, *builds):
-        for _ in range(6000):
-            if len(self.started()) >= len(builds):
+    # Polls the condition until it holds or the time is over.
+    def wait_until(self, condition):
+        for _ in range(100 * LIMIT):
+            if condition():
                 break
             time.sleep(0.01)
+
+    # Waits for as many clients as there are builds. Checks that these and no others have started.
+    def check_started(self, *builds):
+        self.wait_until(lambda: len(self.started()) >= len(builds))
         self.test.assertEqual(list(builds), [build for build, _ in self.started()])
 
-    # Only a child of this process is one of them; a number that was reused is not.
+    # Signals only children of this process: the number of an ended client may have been reused.
     def end_processes(self):
         for number in [*self.processes, *(int(client) for _, client in self.started())]:
             with contextlib.suppress(ChildProcessError):
@@ -200,7 +213,7 @@ class Scene:
                     os.kill(number, signal.SIGKILL)
                     os.waitpid(number, 0)
 
-    # The records as "LEVEL source: message". Fails at one that is torn.
+    # Returns the records as "LEVEL source: message". Fails at an incomplete one.
     def log(self):
         lines = (self.home / ".Corvimo/log/launcher.log").read_text().splitlines()
         return [RECORD.fullmatch(line).expand(r"\1 \2: \3") for line in lines]
@@ -209,7 +222,11 @@ class Scene:
         return [path for path in (self.home / ".Corvimo").iterdir() if "_tmp" in path.name]
 
 
-# The status 77 stands for a skip.
-def main():
+# Runs the program's tests; the exit status 77 tells ctest that one was skipped. With the argument
+# "list", CMake asks for the names of the tests instead.
+def main(names):
+    if sys.argv[1:] == ["list"]:
+        print(*names, sep=";", end="")
+        return
     result = unittest.main(exit=False).result
     sys.exit(77 if result.wasSuccessful() and result.skipped else not result.wasSuccessful())

@@ -1,5 +1,5 @@
-"""Starts of the launcher with faults, one after another on one machine, and the judge of what each of
-them leaves: whatever fails, no data is lost, and whoever had a whole client has one that starts."""
+"""Starts the launcher several times in one home folder, with faults, and checks what each start
+leaves: no data is lost, and where there was a whole client, there is one that starts."""
 
 import os
 import shutil
@@ -23,16 +23,27 @@ KINDS = {call: (call, ERRORS) for call in CALLS} | {
 NO_FAULT = "", 0, 0
 MISSING = -1.0  # In place of a share of the package.
 
-# What may be there. Torsos take all backup names but the first. On a tight disk two clients have room,
-# three have not. The package of an ordinary user has folders that nobody may write to.
+# What a World may have besides the launcher and its package:
+#
+#   installed  a whole client
+#   backup     a whole client under the first backup name
+#   torsos     incomplete clients under all other backup names
+#   data       data of the installed client
+#   older      data of the older product
+#   volume     ~/.Corvimo as another volume
+#   tight      the same with room for two clients, but not for three
+#   pipes      FIFOs in place of the pid file, the log and its levels
+#   shared     ~/.Corvimo writable for its group
+#   ordinary   a launcher that runs as an ordinary user, and read-only folders in its package
+#   large      600 more entries in the package
 FEATURES = "installed older data backup torsos volume tight pipes shared ordinary".split()
-GLUED = r"(?m)^.+\d{4}-\d\d-\d\dT"  # Two records in one line.
+GLUED = r"(?m)^.+\d{4}-\d\d-\d\dT"  # A line with two records.
+# All that may stay in ~/.Corvimo.
 LASTING = {"Corvimo.app", "data", "launcher.lock", "log", "ui.pid"}
 
 
+# One start of the launcher.
 class Start(typing.NamedTuple):
-    """One start of the launcher."""
-
     kept: typing.Optional[float] = None  # The share of the package's entries that is left by a cut.
     fault: tuple = NO_FAULT  # The call, the number and the error for the fault library.
     is_newer: bool = True  # Whether the package has a newer build than that of the start before.
@@ -72,7 +83,8 @@ class World(Scene):
             test.addCleanup(os.setresuid, 0, 0, 0)
             os.setresuid(NOBODY, NOBODY, 0)
 
-    # Not at their places, where the next installation would take the place of one.
+    # Has the launcher install each client, and moves it aside: at its place, the next installation
+    # would replace it.
     def install_with_backup(self):
         places = {"backup": (99, f"{APP}_tmp"), "installed": (100, APP)}
         wanted = [name for name in places if name in self.features]
@@ -108,7 +120,7 @@ class World(Scene):
             entries = [*((name, 0o40555, "") for name in folders), *entries]
         self.trees[str(self.build)] = self.carry_client(str(self.build), entries)
 
-    # The build at the path, where it is whole, as a list.
+    # Returns a list with the build of the whole client at the path, or an empty one.
     def whole(self, path):
         found = snapshot(path)
         return [build for build, tree in self.trees.items() if tree == found]
@@ -116,7 +128,7 @@ class World(Scene):
     def has_whole_client(self):
         return any(map(self.whole, [self.app, *self.backups()]))
 
-    # Starts the launcher and judges what it leaves. Tells whether the fault has struck.
+    # Starts the launcher and checks what it leaves. Returns whether the fault has struck.
     def check_start(self, start):
         self.build += start.is_newer
         self.carry()
@@ -142,7 +154,7 @@ class World(Scene):
             self.test.assertTrue(call == "fork" or started == self.whole(self.app), started)
         return is_killed or self.calls >= number > 0
 
-    # Tells whether the launcher was killed.
+    # Starts the launcher with a fault. Returns whether it was killed.
     def run_with_fault(self, *fault):
         report = self.folder / "calls"
         report.write_text("0")
@@ -158,7 +170,7 @@ class World(Scene):
         self.calls = int(report.read_text())
         return is_killed
 
-    # Starts the launcher again and again, at last twice in order. Tells how many faults have struck.
+    # Plays the starts, and then two without a fault. Returns how many faults have struck.
     def play(self, *starts):
         struck = 0
         for number, start in enumerate((*starts, Start(is_newer=False), Start()), 1):

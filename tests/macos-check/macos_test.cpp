@@ -1,5 +1,5 @@
-// Emulates the calls of macOS that lib/platform/macos makes, checks their arguments, and tests the handling
-// of their errors. The tests in tests/lib/platform run on this emulation, too.
+// Emulates the calls of macOS that lib/platform/macos makes, checks their arguments, and tests the
+// handling of their errors. The tests in tests/lib/platform run on this emulation, too.
 #include <CoreServices/CoreServices.h>
 #include <dlfcn.h>
 #include <fcntl.h>

@@ -8,8 +8,8 @@
 /// The file's bytes. Throws std::runtime_error, naming the path, when they cannot be read.
 std::string ReadFile(const std::string& path);
 
-/// Makes or replaces the file. Throws std::runtime_error, naming the path, when it cannot be written
-/// completely.
+/// Makes or replaces the file. Throws std::runtime_error, naming the path, when it cannot be
+/// written completely.
 void WriteFile(const std::string& path, const std::string& content);
 
 /// The same with all missing folders above it.

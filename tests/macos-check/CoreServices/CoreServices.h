@@ -1,5 +1,5 @@
-// Declarations of what lib/platform/macos uses of CoreServices, so that it can be compiled where the
-// real header is not. macos_test.cpp emulates the calls.
+// Declarations of what lib/platform/macos uses of CoreServices, so that it can be compiled where
+// the real header is not. macos_test.cpp emulates the calls.
 #pragma once
 
 using OSStatus = int;
