@@ -110,7 +110,7 @@ class Scene:
         shutil.copytree(os.environ["BUNDLE"], self.folder / "Launcher.app", symlinks=True)
         self.contents = self.folder / "Launcher.app/Contents"
         self.package = self.contents / "Resources/package/lumaport.cpk"
-        self.errors = self.folder / "errors"
+        self.output = self.folder / "output"
         write(self.contents / "Resources/log/launcher.debug", LEVELS)
         # Variables that would choose a language or a screen are left out.
         kept = {name: value for name, value in os.environ.items() if "SAN_OPTIONS" in name}
@@ -164,20 +164,18 @@ class Scene:
         path = self.contents / program
         ignored_here = signal.SIGPIPE, signal.SIGXFSZ
         environment = self.environment | variables
-        errors = os.POSIX_SPAWN_OPEN, 2, self.errors, APPEND, 0o600
-        options = {"file_actions": [errors], "setsigdef": ignored_here}
+        opening = os.POSIX_SPAWN_OPEN, 1, self.output, APPEND, 0o600
+        actions = [opening, (os.POSIX_SPAWN_DUP2, 1, 2)]
+        options = {"file_actions": actions, "setsigdef": ignored_here}
         self.processes.append(os.posix_spawn(path, [path], environment, **options))
         return self.processes[-1]
 
-    # Runs the launcher to its end and returns its exit status, or the negative number of the signal
-    # that ended it. Prints its standard error when it was neither successful nor killed.
+    # Runs the launcher to its end and returns its exit status, as wait_for does.
     def run(self, **variables):
-        status = self.wait_for(self.start(**variables))
-        if status not in (0, -signal.SIGKILL):
-            print(self.errors.read_text())
-        return status
+        return self.wait_for(self.start(**variables))
 
-    # Waits for a process, or for all. Reaps every child that ends meanwhile, as init does.
+    # Waits for a process, or for all. Reaps every child that ends meanwhile, as init does. Returns
+    # the exit status or the negative number of a signal. Prints the output of a process that fails.
     def wait_for(self, process=None):
         signal.alarm(LIMIT)
         ended = status = 0
@@ -185,7 +183,10 @@ class Scene:
             while ended != process:
                 ended, status = os.wait()
         signal.alarm(0)
-        return os.waitstatus_to_exitcode(status)
+        status = os.waitstatus_to_exitcode(status)
+        if process and status not in (0, -signal.SIGKILL):
+            print(self.output.read_text())
+        return status
 
     # Returns the build and the process id of each client that was started, as it noted them.
     def started(self):
