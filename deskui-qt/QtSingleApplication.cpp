@@ -21,7 +21,7 @@ int OpenLockFile(UniqueFd& file) {
     const QString folder = QDir::homePath() + QStringLiteral("/.Corvimo");
     // mkdir also fails if the folder exists. After any other failure, opening the file fails as
     // well.
-    ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU);
+    static_cast<void>(::mkdir(QFile::encodeName(folder).constData(), S_IRWXU));
     const QByteArray path = QFile::encodeName(folder + QStringLiteral("/launcher.lock"));
     UniqueFd opened =
         OpenRegularFile(path.toStdString(), O_RDWR | O_CREAT | O_NOFOLLOW, S_IRUSR | S_IWUSR);

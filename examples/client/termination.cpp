@@ -26,8 +26,9 @@ extern "C" void OnSignal(int) {
 
 // A process that the client starts must not hold the pipe, and a handler must not block.
 int MakePrivate(int fd) {
-    fcntl(fd, F_SETFD, FD_CLOEXEC);
-    fcntl(fd, F_SETFL, O_NONBLOCK);
+    if (fcntl(fd, F_SETFD, FD_CLOEXEC) != 0 || fcntl(fd, F_SETFL, O_NONBLOCK) != 0) {
+        qFatal("no pipe for signals: %s", std::strerror(errno));
+    }
     return fd;
 }
 
@@ -50,7 +51,7 @@ Termination::Termination()
     action.sa_handler = OnSignal;
     action.sa_flags = SA_RESTART;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
-        sigaction(signal, &action, nullptr);
+        static_cast<void>(sigaction(signal, &action, nullptr));  // Fails for unknown signals only.
     }
 }
 

@@ -106,7 +106,8 @@ def reference_faults(app):
     yield from (f"{name} is missing" for name in NEEDED if not (contents / name).is_file())
     for binary in binaries(app):
         yield from (f"{binary}: searches {path}" for path in names(binary, "LC_RPATH"))
-        own = [] if "plugins" in binary.relative_to(app).parts else names(binary, "LC_ID_DYLIB")  # Loaded by path.
+        is_plugin = "plugins" in binary.relative_to(app).parts  # Qt loads it by its path.
+        own = [] if is_plugin else names(binary, "LC_ID_DYLIB")
         for name in own + names(binary, LOADS):
             file = pathlib.Path(expanded(name, app, binary))
             inside = file.is_file() and file.resolve().is_relative_to(app.resolve())

@@ -58,4 +58,4 @@ class LoadTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    main(unittest.defaultTestLoader.getTestCaseNames(LoadTest))
+    main()

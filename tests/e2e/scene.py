@@ -225,7 +225,7 @@ class Scene:
 
 # Runs the program's tests; the exit status 77 tells ctest that one was skipped. With the argument
 # "list", CMake asks for the names of the tests instead.
-def main(names):
+def main(names=()):
     if sys.argv[1:] == ["list"]:
         print(*names, sep=";", end="")
         return
