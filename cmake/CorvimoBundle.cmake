@@ -1,6 +1,6 @@
-# The launcher's bundle: the target `bundle` assembles <build>/bundle/Corvimo.app, which runs on this
-# machine; installing copies exactly the files listed here, and CPack packs what installing gives. On
-# macOS installing also adds Qt, libarchive and ICU, which makes the bundle movable, and signs it.
+# The launcher's bundle. The target `bundle` assembles <build>/bundle/Corvimo.app, which runs on this
+# machine. Installing copies exactly the files listed here, and CPack packs the installed files. On
+# macOS, installing also adds Qt, libarchive and ICU, so that the bundle can be moved, and signs it.
 
 set(CORVIMO_CLIENT_APP "" CACHE PATH
     "Bundle of the client that the launcher carries; empty for the example client")
@@ -8,8 +8,8 @@ set(CORVIMO_CLIENT_APP "" CACHE PATH
 add_custom_target(bundle ALL)
 
 # corvimo_bundle_part(KIND NAME)
-#   Makes the bundle's Contents/NAME, which some command produces, a part of the bundle. KIND is
-#   PROGRAMS for an executable file and FILES for any other.
+#   Adds Contents/NAME, which some command produces, to the bundle. KIND is PROGRAMS for an
+#   executable file and FILES for any other.
 function(corvimo_bundle_part kind name)
     set(file ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/${name})
     target_sources(bundle PRIVATE ${file})
@@ -31,9 +31,9 @@ function(corvimo_bundle_file kind file name)
 endfunction()
 
 # corvimo_bundle_binary(KIND TARGET NAME)
-#   Copies what TARGET builds to the bundle's Contents/NAME. Unless it is built for debugging, the
-#   copy loses its debug information, which is large and names folders of this machine; the original
-#   keeps it for a debugger. Stripping makes the linker's signature invalid, which macOS asks for.
+#   Copies the file that TARGET builds to the bundle's Contents/NAME. Outside debug builds, debug
+#   information is removed from the copy, because it is large and names folders of this machine; the
+#   original keeps it. macOS asks for a signature, and the removal makes the linker's invalid.
 function(corvimo_bundle_binary kind target name)
     set(copy ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/${name})
     add_custom_command(
@@ -49,8 +49,8 @@ function(corvimo_bundle_binary kind target name)
 endfunction()
 
 # corvimo_bundle_plugins(KIND MODULE NAMES...)
-#   Carries plug-ins that belong to a module of Qt, in the folder that is named for their kind: the
-#   launcher looks for plug-ins in its bundle and nowhere else.
+#   Copies plug-ins of a module of Qt to the folder of their kind. The launcher looks for plug-ins
+#   only in its bundle.
 function(corvimo_bundle_plugins kind module)
     foreach(plugin IN LISTS ARGN)
         if(CORVIMO_QT EQUAL 6)
@@ -64,7 +64,7 @@ function(corvimo_bundle_plugins kind module)
 endfunction()
 
 # corvimo_bundle_package()
-#   Packs the client, and again whenever anything in it has changed.
+#   Packs the client, and packs it again when anything in it has changed.
 function(corvimo_bundle_package)
     set(resources ${PROJECT_BINARY_DIR}/bundle/Corvimo.app/Contents/Resources)
     set(scripts ${PROJECT_SOURCE_DIR}/scripts)

@@ -1,6 +1,6 @@
 # corvimo_library_folders(RESULT)
-#   The folders of Qt, libarchive and ICU. On macOS their libraries may refer to each other by names that
-#   tell no folder.
+#   Returns the folders of Qt, libarchive and ICU. On macOS their libraries may refer to each other by
+#   names without a folder.
 function(corvimo_library_folders result)
     foreach(library Qt${CORVIMO_QT}::Core LibArchive::LibArchive ICU::uc)
         get_target_property(file ${library} LOCATION)

@@ -8,7 +8,7 @@ set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/corvimo_launcher)
 set(config ${PROJECT_BINARY_DIR}/package/corvimo_launcher-config.cmake)
 set(config_version ${PROJECT_BINARY_DIR}/package/corvimo_launcher-config-version.cmake)
 
-# A folder of their own, since their file names are as general as libfile.a.
+# The libraries get their own folder, because names such as libfile.a are general.
 install(TARGETS logger tmpname file utils platform deskui-qt launcher_core
     EXPORT corvimo_launcher
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}/corvimo COMPONENT dev

@@ -7,7 +7,7 @@ if(CMAKE_OSX_DEPLOYMENT_TARGET)
     set(CORVIMO_OLDEST_MACOS ${CMAKE_OSX_DEPLOYMENT_TARGET})
 endif()
 
-# CORVIMO_LOCALIZATIONS: one element for each language of the catalogue, by the name that macOS has for it.
+# CORVIMO_LOCALIZATIONS: one element for each language of the catalogue, with its name on macOS.
 file(GLOB translations CONFIGURE_DEPENDS
     ${PROJECT_SOURCE_DIR}/ui-client/launcher/texts/translations/*.ts)
 set(languages en)
@@ -16,7 +16,7 @@ foreach(translation IN LISTS translations)
     string(REGEX REPLACE ".* language=\"([^\"]+)\".*" "\\1" language "${language}")
     string(REPLACE zh_CN zh-Hans language ${language})
     string(REPLACE zh_TW zh-Hant language ${language})
-    string(REPLACE pt_ pt- language ${language})  # The one language with a translation for each region.
+    string(REPLACE pt_ pt- language ${language})  # Two translations of one language.
     string(REGEX REPLACE "_.*" "" language ${language})
     list(APPEND languages ${language})
 endforeach()

@@ -1,8 +1,8 @@
-# Signing on macOS. Scripts that run without a project include this file, too.
+# Signing on macOS. CMake scripts without a project include this file, too.
 
 # corvimo_sign(APP IDENTITY)
-#   Signs the bundle APP and all code in it. A real identity gets what notarisation asks for; "-" signs for
-#   this machine alone. Every later change of the bundle makes the signature invalid.
+#   Signs the bundle APP and all code in it: with a real identity as notarisation requires, with "-"
+#   for this machine only. Every later change of the bundle makes the signature invalid.
 function(corvimo_sign app identity)
     if(identity STREQUAL "")
         set(identity -)

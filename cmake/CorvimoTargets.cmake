@@ -5,15 +5,15 @@ include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 
 # corvimo_harden(TARGET)
-#   What makes an error in TARGET harder to exploit. The sanitizers bring stricter checks of their own
-#   in the place of those of the C library, which need optimised code.
+#   Makes errors in TARGET harder to exploit. The checks of the C library need optimised code.
+#   Sanitizers bring stricter ones instead.
 function(corvimo_harden target)
     target_compile_options(${target} PRIVATE -fstack-protector-strong)
     if(NOT CORVIMO_SANITIZE)
         target_compile_options(${target} PRIVATE
             "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
     endif()
-    if(NOT APPLE)  # Where the linker does the like by itself.
+    if(NOT APPLE)  # The linker there does the same by default.
         target_link_options(${target} PRIVATE LINKER:-z,relro,-z,now,-z,noexecstack)
     endif()
 endfunction()
@@ -39,7 +39,7 @@ function(corvimo_target_defaults target)
 endfunction()
 
 # corvimo_strict_qt(TARGET)
-#   Asks Qt for nothing that is outdated and nothing that hides a conversion.
+#   Makes Qt refuse outdated calls and hidden conversions.
 function(corvimo_strict_qt target)
     target_compile_definitions(${target} PRIVATE
         QT_DISABLE_DEPRECATED_BEFORE=0x050F00
@@ -59,8 +59,8 @@ function(corvimo_add_library name alias)
 endfunction()
 
 # corvimo_public_headers(TARGET FOLDER HEADERS...)
-#   The headers that a library offers. They are included by their names below FOLDER, and by the same
-#   names where they are installed.
+#   Declares the public headers of a library. They are included by their names below FOLDER, also
+#   where they are installed.
 function(corvimo_public_headers target folder)
     target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${folder} FILES ${ARGN})
 endfunction()

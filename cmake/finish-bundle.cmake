@@ -1,5 +1,5 @@
-# The last step of the bundle's installation on macOS. Qt, libarchive, ICU and what they need join the
-# bundle, every reference to them becomes relative, and the whole is signed. It needs
+# The last step of the bundle's installation on macOS. It adds Qt, libarchive, ICU and their
+# dependencies to the bundle, makes every reference to them relative, and signs the bundle. It needs
 # CORVIMO_LIBRARY_FOLDERS and CORVIMO_CODESIGN_IDENTITY.
 
 include(BundleUtilities)

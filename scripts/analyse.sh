@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Runs clang-tidy over the product's sources and cppcheck over all sources, by the settings in
+# Runs clang-tidy on the product's sources and cppcheck on all sources, with the settings in
 # .clang-tidy and .cppcheck-suppressions. Fails when either finds anything.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 scripts/install-dependencies.sh build test analyse
 cmake --preset dev >/dev/null
-# Both read headers that the build makes.
+# Both tools read headers that the build generates.
 cmake --build --preset dev --target launcher_core >/dev/null
 
 echo "== cppcheck"

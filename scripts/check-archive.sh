@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Runs what CPack ships where nothing else is: in a root folder that holds Debian 12's base system and the
-# run-time packages alone, as an ordinary user, from a folder with a space in its name. Needs root and a
-# network. Ends with a status other than 0 when the client that it carries is not installed and started.
+# Runs the archive that CPack makes in a new root folder, which holds only Debian 12's base system
+# and the run-time packages. The launcher runs there as an ordinary user, from a folder with a space
+# in its name. Needs root and a network. Fails if the carried client is not installed and started.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -27,8 +27,9 @@ tar -xzf build/release/archive/*.tar.gz -C "$home/My Programs"
 chown -R "$user:$user" "$home"
 
 echo "== The launcher in it"
-# Whatever is started there ends together with the shell, the first process of its own system.
-# shellcheck disable=SC2016 # The shell in there expands its variables.
+# The shell is the first process of a PID namespace. When it ends, everything that was started there
+# ends.
+# shellcheck disable=SC2016 # The inner shell expands the variables.
 unshare --pid --fork --mount-proc="$root/proc" chroot --userspec="$user:$user" "$root" \
     /usr/bin/env -i HOME=/home/person PATH=/usr/bin:/bin QT_QPA_PLATFORM=offscreen sh -c '
         contents="$HOME/My Programs/Corvimo.app/Contents"

@@ -1,18 +1,17 @@
 #!/usr/bin/env bash
-# Builds and bundles the launcher for macOS, as far as Debian can: the compiler, linker and Mach-O tools of
-# LLVM, Apple's own C headers, Debian's headers of Qt, libarchive and ICU, and stand-ins for their libraries.
+# Builds and bundles the launcher for macOS, as far as Debian can. It uses the compiler, linker and
+# Mach-O tools of LLVM, Apple's own C headers, Debian's headers of Qt, libarchive and ICU, and
+# stand-ins for the libraries of these three. It checks:
 #
-#   check-macos.sh
-#
-# 1. Every source of the product compiles and links for arm64 and x86_64, without a warning, and for arm64
-#    those of the tests that a Mac runs. Sources with faults of different kinds do not compile.
-# 2. The bundle of the build tree finds its libraries. The installation gives one that refers to nothing
-#    outside it but the system, and that is signed last: once with libraries as Homebrew has them, once with
-#    Qt as its own installer has it.
+# 1. Every source of the product compiles and links for arm64 and x86_64 without a warning. So do,
+#    for arm64, the tests that run on a Mac. Sources with different kinds of faults do not compile.
+# 2. The bundle of the build tree finds its libraries. The installed bundle refers only to itself
+#    and to the system, and it is signed last. This is done with libraries as Homebrew builds them,
+#    and with Qt as its own installer has it.
 # 3. Both property lists are well-formed and complete.
 #
-# npm loads Apple's headers once, 28 MB; they stay in build/macos-check. Without npm nothing is checked: the
-# script says so and ends with status 0. It takes about a minute on two cores.
+# npm loads Apple's headers once; they stay in build/macos-check. Without npm nothing is checked:
+# the script tells so and ends with status 0.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -51,7 +50,8 @@ load_headers() {
     tar -xzf "$package" -C "$work" package/libc/include/any-darwin-any package/libc/darwin
 }
 
-# The system: Apple's headers, the functions of its C library, and the one header that is not Apple's.
+# Makes the system's folder: Apple's headers, the list of its C library's functions, and our header
+# of CoreServices.
 make_sysroot() {
     local frameworks=$MACOS_SYSROOT/System/Library/Frameworks
     rm -rf "$MACOS_SYSROOT"
@@ -66,7 +66,8 @@ make_sysroot() {
         "$frameworks/CoreServices.framework/CoreServices.tbd"
 }
 
-# empty_library INSTALL_NAME FILE - a library of the system, for the linker.
+# empty_library INSTALL_NAME FILE - describes a library of the system to the linker, without
+# functions.
 empty_library() {
     cat >"$2" <<END
 --- !tapi-tbd
@@ -77,7 +78,8 @@ install-name: '$1'
 END
 }
 
-# library FILE INSTALL_NAME [LINKED...] - makes a stand-in for a library, read-only as Homebrew's are.
+# library FILE INSTALL_NAME [LINKED...] - makes a stand-in for a library, read-only as Homebrew's
+# are.
 library() {
     local file=$MACOS_PREFIX/$1 name=$2
     mkdir -p "${file%/*}"
@@ -87,7 +89,7 @@ library() {
     chmod 444 "$file"
 }
 
-# framework NAME QT_NAMES [LINKED...] - one of Qt's.
+# framework NAME QT_NAMES [LINKED...] - makes a stand-in for a framework of Qt.
 framework() {
     local folder=qt/lib/$1.framework
     library "$folder/Versions/5/$1" "$2/$1.framework/Versions/5/$1" "${@:3}"
@@ -97,9 +99,10 @@ framework() {
     ln -s "Versions/Current/$1" Versions/Current/Resources "$MACOS_PREFIX/$folder/"
 }
 
-# make_libraries QT_NAMES [LINK_OPTION...] - Qt, libarchive and ICU. The install names of Qt's frameworks
-# begin with QT_NAMES; Qt's plug-ins are linked with the options. libarchive needs a library from another
-# folder, and ICU's libraries find each other by @loader_path.
+# make_libraries QT_NAMES [LINK_OPTION...] - makes stand-ins for Qt, libarchive and ICU. The install
+# names of Qt's frameworks begin with QT_NAMES. Qt's plug-ins are linked with the options.
+# libarchive needs a library from another folder, and ICU's libraries find each other by
+# @loader_path.
 make_libraries() {
     local names=$1 options=("${@:2}") lib=$MACOS_PREFIX/qt/lib plugin
     local core=$lib/QtCore.framework/QtCore gui=$lib/QtGui.framework/QtGui
@@ -142,11 +145,11 @@ check() {
     python3 -B "$here/check_bundle.py" "$@"
 }
 
-# build IDENTITY - compiles and links everything, and makes sure that the compiler would have found faults.
+# build IDENTITY - compiles and links everything, and checks that the compiler finds faults.
 build() {
     rm -rf "$build"
     mkdir -p "$build"
-    # The sources are compiled as for what ships, but not optimised, which takes half the time.
+    # The sources are compiled as for a release, but without optimisation: that takes half the time.
     run "$build/configure.log" cmake --preset macos -B "$build" --toolchain "$here/toolchain.cmake" \
         -DCORVIMO_TESTS="$tests" -DCORVIMO_WARNINGS_AS_ERRORS=ON -DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O0 \
         -DCORVIMO_CODESIGN_IDENTITY="$1"
@@ -158,7 +161,7 @@ build() {
     check unresolved "$build/bundle/Corvimo.app"
 }
 
-# install_bundle IDENTITY - runs the installation as macOS does, twice, and looks at what is there then.
+# install_bundle IDENTITY - runs the installation for macOS twice, and checks its result each time.
 install_bundle() {
     local app=$build/installed/Corvimo.app client=$build/client signing="--force --deep --sign $1" times
     for times in once again; do

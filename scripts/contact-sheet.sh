@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Takes pictures of the launcher's progress dialog in every language and at three display scales, and
-# puts them together to sheets for a person to look at.
+# Takes pictures of the launcher's progress dialog in every language and at three display scales,
+# and combines them into sheets.
 #
 #   contact-sheet.sh [BUNDLE.app]
 #
-# The pictures show the launcher of the bundle at work, on an X server and with a home folder of their
-# own. Without BUNDLE.app the preset `release` is built. Installs what it needs (Debian) and writes to
-# docs/images: contact-sheet-100.png, -125.png and -200.png, named by the scale in percent, and
+# The launcher of the bundle runs on an X server and in a home folder of its own. Without BUNDLE.app
+# the script builds the preset `release`. It installs what it needs (Debian) and writes to
+# docs/images: contact-sheet-100.png, -125.png and -200.png, named after the scale in percent, and
 # dialog-CODE.png for the languages that the README shows.
 set -euo pipefail
 
@@ -19,8 +19,8 @@ design_dpi=96
 design_width=400
 design_height=80
 
-# What the launcher unpacks: empty files, which take one block of the archive each, so that the place
-# behind any of them is known.
+# The launcher unpacks empty files. Each of them takes one block of the archive, so the script knows
+# where each one ends.
 entries=100
 entries_in_picture=64
 block=512
@@ -63,7 +63,8 @@ start_display() {
     export DISPLAY
 }
 
-# The package holds no client, so that every start installs it anew and nothing is started afterwards.
+# The package holds no client. So every start installs it again, and no client is started
+# afterwards.
 make_package() {
     mkdir "$scratch/client"
     (cd "$scratch/client" && seq "$entries" | xargs touch && seq "$entries" |
@@ -77,14 +78,14 @@ lay_out() {
     make_package
 }
 
-# The launcher reads its package twice, to count the entries and to unpack them, and finds a pipe in
-# the package's place each time. The second one pauses until somebody writes to $resume.
-# shellcheck disable=SC2094 # Reading the archive and writing to the pipe is the very purpose.
+# The launcher reads its package twice: to count the entries, and to unpack them. Each time the
+# package is a pipe. The second pipe pauses until somebody writes to $resume.
+# shellcheck disable=SC2094 # The archive is read, and the package is written.
 serve_package() {
     local held=$((entries_in_picture * block))
     {
         mkfifo "$package.next"
-        mv -f "$package.next" "$package" # For the second reading, now that the first has begun.
+        mv -f "$package.next" "$package" # The first reading has begun; the second opens this pipe.
         cat "$archive"
     } >"$package"
     {
@@ -94,7 +95,7 @@ serve_package() {
     } >"$package"
 }
 
-# take_picture LOCALE PERCENT FILE - one run of the launcher, with a picture half-way.
+# take_picture LOCALE PERCENT FILE - runs the launcher and takes a picture in the middle of the run.
 take_picture() {
     local locale=$1 percent=$2 file=$3 server launcher
     rm -rf -- "$home/.Corvimo" "$package"
@@ -107,7 +108,7 @@ take_picture() {
     launcher=$!
 
     wait_until test -e "$home/.Corvimo/Corvimo.app/$entries_in_picture"
-    sleep 0.5 # For the window to draw itself.
+    sleep 0.5 # The window needs time to draw itself.
     import -silent -window "Corvimo Client" +dither -colors 64 -depth 8 -strip "PNG8:$file"
     check_size "$percent" "$file"
 
@@ -116,7 +117,7 @@ take_picture() {
     wait "$server"
 }
 
-# A scale that has not reached the dialog would make a sheet of no use.
+# check_size PERCENT FILE - checks that the dialog has the size of the scale.
 check_size() {
     local percent=$1 file=$2 wanted found
     wanted=$((design_width * percent / 100))x$((design_height * percent / 100))
@@ -127,7 +128,8 @@ check_size() {
     fi
 }
 
-# One line "CODE LOCALE" for each language. English has no file, since the catalogue is English.
+# Prints a line "CODE LOCALE" for each language. English has no file, since the catalogue is
+# English.
 languages() {
     local file
     echo "enu en_US"

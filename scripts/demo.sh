@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Shows the launcher at work, in a scratch home folder: an older client is running, the launcher
-# stops it, installs the one that it carries and starts that; a second start finds nothing to do.
+# Shows an upgrade in a temporary home folder. An older client is running; the launcher stops it,
+# installs the client that it carries, and starts that. A second start finds nothing to do.
 #
 #   demo.sh [--keep]
 #
-# Installs what the build needs (Debian), builds the preset `release`, and ends with a status other
-# than 0 if anything did not happen as promised. With --keep the scratch folder stays for a look.
+# Installs what the build needs (Debian) and builds the preset `release`. Fails if anything did not
+# happen as promised. With --keep the temporary folder stays.
 set -euo pipefail
 
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
@@ -38,7 +38,8 @@ heading() {
     printf '\n\033[1m== %s\033[0m\n' "$1"
 }
 
-# promise TEXT COMMAND... - says whether the command, and so what the text claims, holds.
+# promise TEXT COMMAND... - runs the command, which checks what the text claims, and prints the
+# result.
 promise() {
     if "${@:2}"; then
         echo "  kept    $1"
@@ -58,8 +59,8 @@ wait_until() {
     return 1
 }
 
-# The processes whose executable lies in the scratch folder: all of them are ours. One that has
-# ended has no executable, even while nobody has taken note of its end.
+# Prints the processes whose executable is in the scratch folder: all of them are ours. A process
+# that has ended has no executable, even if nobody has waited for it yet.
 scratch_processes() {
     local process
     for process in /proc/[0-9]*; do
@@ -99,7 +100,7 @@ has_ended() {
     ! kill -0 "$1" 2>/dev/null
 }
 
-# client_runs_beside PID... - a client runs, and is none of these processes.
+# client_runs_beside PID... - checks that a client runs that is none of these processes.
 client_runs_beside() {
     local pid
     pid=$(client_pid)
@@ -115,12 +116,12 @@ installed_equals_package() {
         "$launcher_app/Contents/Resources/package/lumaport.cpk" "$app" >/dev/null
 }
 
-# Neither among the new files nor under the name of a backup.
+# Checks that nothing of it is among the new files, and that there is no backup.
 old_copy_is_gone() {
     [[ ! -e $app/Contents/Resources/old-file ]] && ! compgen -G "$app?*" >/dev/null
 }
 
-# Tells any file of the installed copy that was written or replaced.
+# Prints a list of the installed files that changes when a file is written or replaced.
 installed_snapshot() {
     find "$app" -printf '%i %C@ %p\n' | sort
 }
@@ -133,7 +134,7 @@ log_has() {
     log_of_this_run | grep -qF -- "$1"
 }
 
-# A log that is not there proves nothing.
+# Fails without a log, because that proves nothing.
 log_lacks() {
     [[ -s $log ]] && ! log_of_this_run | grep -qE -- "$1"
 }
@@ -143,7 +144,7 @@ show_folder() {
     (cd "$home" && find .Corvimo -printf '  %M %7s  %p -> %l\n' | sed 's/ -> $//' | sort -k 3)
 }
 
-# Runs the launcher to its end; its status is left in launcher_status.
+# Runs the launcher to its end and sets launcher_status.
 run_launcher() {
     log_lines=0
     [[ ! -f $log ]] || log_lines=$(wc -l <"$log")
@@ -172,7 +173,7 @@ choose_display() {
         echo "There is no display: the windows are drawn in memory only."
         export QT_QPA_PLATFORM=offscreen
     fi
-    # Qt complains about a session without one, as a remote shell often is.
+    # Qt prints a warning without this variable, which a remote shell often lacks.
     if [[ -z ${XDG_RUNTIME_DIR:-} ]]; then
         export XDG_RUNTIME_DIR=$scratch/run
         mkdir -m 700 "$XDG_RUNTIME_DIR"
@@ -184,8 +185,8 @@ let_watch() {
     [[ -z ${DISPLAY:-} ]] || sleep 3
 }
 
-# The bundle is copied to where no build ever was, and told to log everything but the details of
-# each file operation.
+# Copies the bundle to a folder without a build, and sets its log levels: everything but the details
+# of file operations.
 lay_out() {
     local resources=$launcher_app/Contents/Resources
     mkdir -p "$scratch/Applications" "$state"
@@ -200,8 +201,8 @@ lay_out() {
 
 start_old_client() {
     heading "An older client, build $old_build, is installed and running"
-    # A child of this shell, which takes note of its end; the launcher would wait for that in vain
-    # if nobody did.
+    # The client is a child of this shell, which waits for its end. Otherwise the ended client would
+    # remain as a zombie, and the launcher would wait for it in vain.
     HOME=$home "$client" >/dev/null 2>&1 &
     old_pid=$!
     wait_until client_runs_beside || true

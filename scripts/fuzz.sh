@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Fuzzes every target, or the ones named, each for a time:
+# Fuzzes the given targets, or all, for a time:
 #
 #   fuzz.sh [SECONDS [TARGET...]]
 #
-# Without arguments every target for 10 seconds. What is found stays in build/fuzz/TARGET: new inputs in
-# the folder `corpus`, from which the next run goes on, and an input that fails beside it.
+# The default is 10 seconds for each target. The results stay in build/fuzz/TARGET: new inputs in
+# the folder `corpus`, with which the next run begins, and beside it an input that fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -19,9 +19,9 @@ cmake --build --preset fuzz --parallel "$(nproc)"
 fuzz() {
     local target=$1 found=build/fuzz/$1
     mkdir -p "$found/corpus"
-    # Warnings of the code under test would be most of its work, so its standard error is closed. The
-    # folders that a target makes for an input need no disk. Leaks are looked for at the end, since
-    # what Qt keeps on purpose would have them looked for after every input.
+    # Standard error is closed, because printing warnings would take most of the time. Temporary
+    # folders are in memory where that is possible. Leaks are searched only at the end: memory that
+    # Qt keeps on purpose would cause a search after every input.
     TMPDIR=$([[ -w /dev/shm ]] && echo /dev/shm || echo /tmp) \
         "build/fuzz/tests/fuzz/${target}_fuzz" -max_total_time="$seconds" -timeout=60 -max_len=16384 \
         -close_fd_mask=2 -handle_xfsz=0 -detect_leaks=0 -dict="tests/fuzz/$target.dict" -artifact_prefix="$found/" \
@@ -32,7 +32,7 @@ for target in "${targets[@]}"; do
     log=$(mktemp)
     if ! fuzz "$target" >"$log" 2>&1; then
         cat "$log"
-        echo "build/fuzz/tests/fuzz/${target}_fuzz FILE tells which property fails with such a file" >&2
+        echo "To see what fails, run build/fuzz/tests/fuzz/${target}_fuzz with the file of that input." >&2
         exit 1
     fi
     echo "$target: $(tail -n 1 "$log")"

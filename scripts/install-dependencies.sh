@@ -3,17 +3,17 @@
 #
 #   install-dependencies.sh GROUP...
 #
-# Groups: build (compile the launcher and assemble its bundle), test (what the tests need on top),
-# fuzz, qt6 (the other compiler and the other Qt), analyse, bench, archive, macos, demo and pictures (what
-# each needs on top; the last are those in docs/).
-# With everything in place it changes nothing and needs neither root nor a network.
+# The group build has what compiles the launcher and assembles its bundle. Each other group has what
+# one more use needs: test, fuzz, qt6 (clang and Qt 6), analyse, bench, archive, macos, demo and
+# pictures (those in docs/). If nothing is missing, the script changes nothing and needs neither
+# root nor a network.
 set -euo pipefail
 
 packages_of() {
     case $1 in
     build) echo g++ cmake ninja-build python3 qtbase5-dev qttools5-dev qttools5-dev-tools \
         libarchive-dev libicu-dev ;;
-    test) echo binutils clang-format git libgtest-dev ;;
+    test) echo binutils black clang-format git libgtest-dev ;;
     fuzz) echo clang libclang-rt-dev ;;
     qt6) echo clang qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libgl-dev ;;
     analyse) echo clang-tidy clang-tools cppcheck ;;

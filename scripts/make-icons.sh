@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the bundles' icons for macOS from their pictures. Run it after a change of a picture, and commit
-# what it writes. Installs what it needs (Debian).
+# Makes the icons of both bundles for macOS from their pictures. Run it after a change of a picture,
+# and commit the icons. Installs what it needs (Debian).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,8 +1,12 @@
 #!/usr/bin/env bash
-# Proves whole what scripts/test.sh proves on a sample: an upgrade killed at every step and every call with
-# every error, each followed by a start with another fault; three thousand random sequences of starts; a
-# thousand runs in a row; eight million log records. Prints the figures; docs/reliability.md says what they
-# mean.
+# Runs all cases of which scripts/test.sh runs a sample, and prints the figures that
+# docs/reliability.md explains:
+#
+# - an upgrade that is killed at every call that changes a disk, and one in which every call fails
+#   with every error, each followed by a start with another fault
+# - 3,000 random sequences of starts
+# - 1,000 runs in a row
+# - 8,000,000 log records
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
-# Installs what the tests need, builds, and runs every check: the format, with the data-race checks what runs
-# on several threads without Qt, everything with the address, leak and undefined-behaviour checks, everything
-# with the other compiler and the other Qt, what can be checked of the bundle for macOS, the fuzzers for a few
-# seconds each, clang-tidy and cppcheck, and everything as built for everyday work.
+# Installs what the tests need, builds, and runs every check:
+#
+# - the format of all sources
+# - the tests of the logger and the random names with data-race checks
+# - all tests with address, leak and undefined-behaviour checks
+# - all tests with clang and Qt 6
+# - the bundle for macOS, as far as Linux can check it
+# - each fuzzer for 10 seconds
+# - clang-tidy and cppcheck
+# - all tests in the everyday build
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -21,6 +27,7 @@ build() {
 
 echo "== Format"
 git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
+git ls-files '*.py' | xargs black --check --line-length 100
 
 build tsan --target lib_tests
 build/tsan/tests/bin/lib_tests --gtest_brief=1 --gtest_filter='Log*:TmpNameGen*'

@@ -1,11 +1,11 @@
-"""Tells what is wrong with bundles for macOS; for check-macos.sh.
+"""Finds faults in bundles for macOS; for check-macos.sh.
 
-check_bundle.py unresolved APP          references of its binaries that lead nowhere
+check_bundle.py unresolved APP          references of its binaries to missing libraries
 check_bundle.py references APP          references of its binaries that leave the bundle
-check_bundle.py seal APP                files that are not as they were when the bundle was signed
+check_bundle.py seal APP                files that have changed since the bundle was signed
 check_bundle.py properties APP OLDEST   faults of its property list
-check_bundle.py functions BINARY...     functions that no library there is known to have
-check_bundle.py compiler COMMANDS       faults in made-up sources that the project's compile command misses
+check_bundle.py functions BINARY...     functions that no library is known to have
+check_bundle.py compiler COMMANDS       faults in test sources that the compile command does not report
 
 Exits 0 when nothing is wrong."""
 
@@ -23,8 +23,8 @@ LLVM = pathlib.Path(os.environ["LLVM"])
 TRANSLATIONS = pathlib.Path(__file__).parents[2] / "ui-client/launcher/texts/translations"
 MACH_O = b"\xcf\xfa\xed\xfe"
 LOADS = "LC_(?:LOAD|LOAD_WEAK|REEXPORT|LAZY_LOAD|LOAD_UPWARD)_DYLIB"
-# Functions of the libraries that have only stand-ins. Names of C functions begin with an underscore; those
-# of C++ are demangled.
+# Functions of the libraries that have only stand-ins. Names of C functions begin with an
+# underscore; those of C++ are demangled.
 STANDING_IN = re.compile(
     r"_(FS\w+|archive_\w+|__cxa_\w+|__gxx_\w+|u\w+_\d+)"
     r"|(.* (for|to) )?(Q|q[A-Z]|qt_|qstr|std::|testing::|__cxxabiv1::|operator).*"
@@ -68,7 +68,7 @@ def load_commands(binary):
 
 
 def function_faults(binaries):
-    """The linker takes any function for one of a library that is loaded later; this does not."""
+    """Finds unknown functions. The linker accepts them as functions of a library loaded later."""
     for binary in binaries:
         symbols = subprocess.check_output([LLVM / "llvm-nm", "-m", binary], text=True)
         unknown = re.findall(r"external (\S+) \(dynamically looked up", symbols)
@@ -79,7 +79,7 @@ def function_faults(binaries):
 
 
 def names(binary, command):
-    """The names of libraries, or the run paths, in one kind of a binary's load commands."""
+    """Returns the names of libraries, or the run paths, in one kind of a binary's load commands."""
     pattern = rf"cmd {command}\n.*\n +(?:name|path) (\S.*) \(offset"
     return re.findall(pattern, load_commands(binary))
 
@@ -90,7 +90,7 @@ def expanded(name, app, binary):
 
 
 def unresolved_faults(app):
-    """A bundle of the build tree may refer to libraries elsewhere, also by the launcher's run paths."""
+    """Finds missing libraries. In the build tree, the launcher's run paths may lead outside the bundle."""
     launcher = app / "Contents/MacOS/launcher"
     folders = [expanded(path, app, launcher) for path in names(launcher, "LC_RPATH")]
     for binary in binaries(app):
@@ -158,14 +158,14 @@ def property_faults(app, oldest):
     icon = contents / f"Resources/{found.get('CFBundleIconFile')}.icns"
     if not icon.is_file() or not icon.read_bytes().startswith(b"icns"):
         yield f"{icon} is no icon"
-    # No macOS before 11 runs on the newer processors, and the compiler knows.
+    # The compiler knows that macOS 11 is the first one for arm64.
     built_for = "11.0" if os.environ["MACOS_ARCHITECTURE"] == "arm64" else oldest
     if not executable.is_file() or f"minos {built_for}\n" not in load_commands(executable):
         yield f"{executable} is not built for macOS {built_for}"
 
 
 def compile_faults(commands):
-    """Has made-up sources compiled as lib/platform/process.cpp is."""
+    """Compiles test sources with the command of lib/platform/process.cpp."""
     commands = json.loads(pathlib.Path(commands).read_text())
     (entry,) = (c for c in commands if c["file"].endswith("lib/platform/process.cpp"))
     command = shlex.split(entry["command"])

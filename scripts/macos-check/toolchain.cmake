@@ -1,5 +1,6 @@
 # Builds for macOS on Debian, for scripts/check-macos.sh. The environment says where things are:
-# MACOS_SYSROOT, MACOS_PREFIX (Qt, libarchive and ICU), MACOS_ARCHITECTURE and LLVM (folder of the tools).
+# MACOS_SYSROOT, MACOS_PREFIX (Qt, libarchive and ICU), MACOS_ARCHITECTURE and LLVM (folder of the
+# tools).
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_VERSION 20)
 set(CMAKE_SYSTEM_PROCESSOR $ENV{MACOS_ARCHITECTURE})
@@ -12,7 +13,8 @@ set(CMAKE_CXX_FLAGS_INIT -stdlib=libc++)
 string(APPEND CMAKE_CXX_FLAGS_INIT
     " -D__ENVIRONMENT_OS_VERSION_MIN_REQUIRED__=__ENVIRONMENT_MAC_OS_X_VERSION_MIN_REQUIRED__")
 if($ENV{MACOS_ARCHITECTURE} STREQUAL x86_64)
-    # Clang 14 lacks the type there; Apple's <math.h> declares functions with it that nobody here calls.
+    # Clang 14 lacks the type there; Apple's <math.h> declares functions with it that nobody here
+    # calls.
     string(APPEND CMAKE_CXX_FLAGS_INIT " -D_Float16=float")
 endif()
 foreach(tool AR RANLIB STRIP NM)
@@ -23,11 +25,11 @@ endforeach()
 # The tests are compiled and linked, but nothing here can run them.
 set(CMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE PRE_TEST)
 
-# What is called of Qt, libarchive and ICU has no code here.
+# The stand-ins for Qt, libarchive and ICU have no code, so their functions stay undefined.
 foreach(kind EXE SHARED)
     set(CMAKE_${kind}_LINKER_FLAGS_INIT "-fuse-ld=lld -Wl,-undefined,dynamic_lookup")
 endforeach()
 
 file(GLOB CMAKE_PREFIX_PATH $ENV{MACOS_PREFIX}/*)
 list(APPEND CMAKE_PREFIX_PATH ${CMAKE_CURRENT_LIST_DIR}/packages)
-set(CMAKE_FIND_USE_CMAKE_SYSTEM_PATH OFF)  # Nothing of Debian's own libraries.
+set(CMAKE_FIND_USE_CMAKE_SYSTEM_PATH OFF)  # Debian's own libraries must not be found.

@@ -5,8 +5,8 @@
 # faults_test.py random    random sequences
 # faults_test.py SEED      repeats one random sequence
 #
-# A run tries a sample of the calls, and few sequences; with CORVIMO_WHOLE_MATRIX, all calls and many
-# sequences.
+# A run tries a sample of the calls, and few sequences. With CORVIMO_WHOLE_MATRIX it tries all calls
+# and many sequences.
 
 import collections
 import random
