@@ -6,7 +6,6 @@ import pathlib
 import resource
 import signal
 import subprocess
-import time
 import unittest
 
 from scene import APP, CLIENT, NOBODY, OPEN, REGISTER, SHORT_CLIENT, Scene, main, snapshot, write
@@ -14,12 +13,6 @@ from scene import APP, CLIENT, NOBODY, OPEN, REGISTER, SHORT_CLIENT, Scene, main
 STACK_BYTES = 256 << 10
 LONG_PATH = 4000
 BINARY = b"\x7fELF\0\xff\n=\0"
-
-HOLD = """\
-#!/bin/sh
-touch "$HOME/held"
-while [ -e "$HOME/held" ] && [ -d "/proc/$TESTER" ]; do sleep 0.05; done
-"""
 
 # Notes its open descriptors and which of the first 16 signals are ignored, where a client notes its
 # build. Of the last signals, the C library uses some itself.
@@ -169,22 +162,6 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(0, result.returncode, result.stderr)
         scene.check_started("100")
         self.assertEqual(before, snapshot(scene.home / ".Corvimo"))
-
-    def test_quits_at_once_while_another_launcher_runs(self):
-        for mode in 0o755, 0o775, 0o777:
-            with self.subTest(oct(mode)):
-                scene = self.upgrade()
-                (scene.home / ".Corvimo").chmod(mode)
-                held = scene.home / "held"
-                write(scene.contents / REGISTER, HOLD, 0o755)
-                first = scene.start()
-                scene.wait_until(held.exists)
-                self.check_run(scene)
-                left = "DEBUG main(154): app has already launched, return"
-                self.assertEqual(left, scene.log()[-1])
-                held.unlink()
-                self.assertEqual(0, scene.wait_for(first))
-                scene.check_started("101")
 
     def test_starts_programs_without_its_descriptors_and_ignored_signals(self):
         scene = self.upgrade()

@@ -4,29 +4,39 @@ import fcntl
 import os
 import unittest
 
-from scene import APP, CLIENT, CLIENT_SCRIPT, IS_WHOLE, OPEN, TRIES, Scene, main, snapshot, write
+from scene import APP, IS_WHOLE, OPEN, REGISTER, TRIES, Scene, main, snapshot, write
 
 FULL_LOG = 5242880
+INSTALLED = "INFO cloud-service: user installation is ready, removing backup app"
+QUITS = "DEBUG main(154): app has already launched, return"
+
+# Stands in for the tool that a launcher starts after an installation, and ends when the test says so.
+HOLD = """\
+#!/bin/sh
+touch "$HOME/held"
+while [ -e "$HOME/held" ] && [ -d "/proc/$TESTER" ]; do sleep 0.05; done
+"""
 
 
 class LoadTest(unittest.TestCase):
-    def test_one_of_many_launchers_installs(self):
-        # The client takes a second to end. Meanwhile the other launchers start.
-        scene = Scene(self, client=CLIENT_SCRIPT.replace("exit 0", "sleep 1; exit 0"))
-        scene.install_client("100")
-        tree = scene.carry_client("101")
-        write(scene.contents / OPEN, "#!/bin/sh\n", 0o755)
-        scene.start(scene.home / CLIENT)
-        scene.check_started("100")
-        launchers = {scene.start() for _ in range(20)}
-        statuses = {}
-        while not launchers <= statuses.keys():
-            process, status = os.wait()
-            statuses[process] = status
-        self.assertEqual({0}, {statuses[launcher] for launcher in launchers})
-        ready = "INFO cloud-service: user installation is ready, removing backup app"
-        self.assertEqual(1, scene.log().count(ready))
-        self.assertEqual(tree, snapshot(scene.home / APP))
+    def test_of_many_launchers_one_installs_and_the_others_quit(self):
+        for mode in 0o755, 0o775, 0o777:
+            with self.subTest(oct(mode)):
+                scene = Scene(self)
+                scene.install_client("100")
+                tree = scene.carry_client("101")
+                log, held = scene.home / ".Corvimo/log/launcher.log", scene.home / "held"
+                (scene.home / ".Corvimo").chmod(mode)
+                write(scene.contents / REGISTER, HOLD, 0o755)
+                write(scene.contents / OPEN, "#!/bin/sh\n", 0o755)
+                launchers = [scene.start() for _ in range(20)]
+                scene.wait_until(held.exists)
+                scene.wait_until(lambda: log.read_text().count(", return\n") == 19)
+                held.unlink()
+                self.assertEqual({0}, {os.waitpid(launcher, 0)[1] for launcher in launchers})
+                counts = [scene.log().count(record) for record in (INSTALLED, QUITS)]
+                self.assertEqual([1, 19], counts)
+                self.assertEqual(tree, snapshot(scene.home / APP))
 
     def test_runs_without_upgrade_leave_nothing_behind(self):
         scene = Scene(self)
