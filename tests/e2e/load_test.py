@@ -10,7 +10,7 @@ FULL_LOG = 5242880
 INSTALLED = "INFO cloud-service: user installation is ready, removing backup app"
 QUITS = "DEBUG main(154): app has already launched, return"
 
-# Stands in for the tool that a launcher starts after an installation, and ends when the test says so.
+# Replaces a tool that the launcher starts after an installation. It ends when the test says so.
 HOLD = """\
 #!/bin/sh
 touch "$HOME/held"
