@@ -64,7 +64,8 @@ def diagnose(home, launcher, keep):
     is_unfinished = last and last.verdict in ("ended half-way", "not told")
     if is_unfinished and state.lock == states.HELD and states.is_running(last.pid):
         last.verdict = "running"
-    return safe(report.build(source, state, log), Privacy(source.home if source.is_live else None))
+    privacy = Privacy(source.home if source.is_live else None)
+    return safe(report.build(source, state, log, privacy), privacy)
 
 
 def safe(value, privacy):
@@ -88,7 +89,8 @@ def main():
         result = diagnose(arguments.home, arguments.launcher, arguments.runs)
     except (sources.Unusable, OSError) as error:
         reason = error.strerror if isinstance(error, OSError) else error
-        print(f"diagnose.sh: {Privacy().shown(arguments.home)}: {reason}", file=sys.stderr)
+        named = Privacy(os.path.expanduser("~")).shown(arguments.home)
+        print(f"diagnose.sh: {named}: {reason}", file=sys.stderr)
         return 1
     if arguments.json:
         print(json.dumps(result, indent=2, ensure_ascii=False))

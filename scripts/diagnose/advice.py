@@ -17,15 +17,9 @@ def next_step(state, log):
         step = rule(state, last)
         if step:
             return step
-    if last and last.verdict in ("not told", "complained"):
-        return (
-            "nothing",
-            "Nothing. Where the person still has trouble, set the levels below and start once more.",
-        )
-    return (
-        "nothing",
-        "Nothing: the client is whole. The trouble is not the launcher's, or another start will show it.",
-    )
+    if last is None or last.verdict in ("not told", "complained"):
+        return "nothing", "Nothing: the client is whole. If there is trouble, set the levels below and start once more."
+    return "nothing", "Nothing: the client is whole, and the last start ended well."
 
 
 def _of_running(state, last):
@@ -88,7 +82,7 @@ def _of_last_failure(state, last):
     if last.verdict == "ended half-way" and last.cause:
         return "cause", _sentence(last.cause.error.helps)
     if last.verdict == "ended half-way":
-        return "start", "Start the launcher again: it goes on where the last start ended."
+        return "start", "Start the launcher again: it does what the last start has not finished."
     return None
 
 

@@ -42,7 +42,7 @@ ERRORS = (
         "`Failed to calculate total file numbers, ret: 0`",
         r"Failed to calculate total file numbers, ret: 0$",
         CAUSE,
-        "the package is an archive without entries, or its first entry is damaged",
+        "the package is an empty file or an archive without entries, or its very beginning is damaged",
         AGAIN,
     ),
     Error(

@@ -9,10 +9,8 @@ _REASONS = sorted({os.strerror(number) for number in range(1, 140)}, key=len, re
 _REASON = re.compile(
     r"[)'\]]?[:.]? (?:errno : )?(?:%s)(?: \(\d+\))?$" % "|".join(map(re.escape, _REASONS))
 )
-_HOMES = (
-    re.compile(r"/[^']*?(?=/\.(?:Corvimo|Lumaport)\b)"),
-    re.compile(r"(?:/Users|/home)/[^/']+"),
-)
+# Whatever comes before the launcher's folders is a home folder.
+_HOMES = (re.compile(r"/.*?(?=/\.(?:Corvimo|Lumaport)\b)"), re.compile(r"(?:/Users|/home)/[^/']+"))
 
 
 class Privacy:
@@ -26,10 +24,15 @@ class Privacy:
         """Returns a text with `~` for the home folder and without what lies below the data folders."""
         text = _without_data(text)
         for home in self._homes:
-            text = re.sub(re.escape(home) + r"(?=/|$|\W)", "~", text)
+            text = re.sub(re.escape(home) + r"(?![\w.-])", "~", text)
+        return "".join(char if char.isprintable() else "?" for char in text)
+
+    def message(self, text):
+        """Returns a message of the log likewise, whatever home folder it names."""
+        text = self.shown(text)
         for pattern in _HOMES:
             text = pattern.sub("~", text)
-        return printable(text)
+        return text
 
 
 def _without_data(text):
@@ -38,8 +41,3 @@ def _without_data(text):
         return text
     reason = _REASON.search(text, found.end())
     return text[: found.end()] + "/…" + (reason.group() if reason else "")
-
-
-def printable(text):
-    """Returns a text without control characters and what else is no character."""
-    return "".join(char if char.isprintable() else "?" for char in text)

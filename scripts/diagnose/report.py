@@ -26,8 +26,8 @@ def _count(number, what):
     return f"{number:,} {what}{'' if number == 1 else 's'}"
 
 
-def build(source, state, log):
-    """Returns the report. All texts still name the home folder."""
+def build(source, state, log, privacy):
+    """Returns the report. Texts of the system may still name the home folder."""
     key, step = next_step(state, log)
     items = {name: item for name, item in _state_items(source, state) if item}
     return {
@@ -35,7 +35,7 @@ def build(source, state, log):
         "notes": [*source.notes, *log.notes, *_log_notes(source, log)],
         "state": items,
         "starts": {"count": sum(log.verdicts.values()), "verdicts": dict(log.verdicts)},
-        "runs": [_run_item(run) for run in log.runs],
+        "runs": [_run_item(run, privacy) for run in log.runs],
         "levels": _level_lines(state, log),
         "next_step": {"is": key, "text": step},
     }
@@ -199,7 +199,7 @@ def _log_notes(source, log):
         yield "There is no log: no launcher was started here, or it could not write."
 
 
-def _run_item(run):
+def _run_item(run, privacy):
     source, target = run.builds.get("source"), run.builds.get("target")
     seconds = max(0, int((run.end - run.begin).total_seconds()))
     cause = run.cause
@@ -216,7 +216,7 @@ def _run_item(run):
         "text": _verdict_text(run, source, target, seconds),
         "source_build": source,
         "target_build": target,
-        "cause": _cause_text(cause) if cause and run.verdict != "installed" else None,
+        "cause": _cause_text(cause, privacy) if cause and run.verdict != "installed" else None,
         "helps": errors.plain(cause.error.helps) if cause and run.verdict != "installed" else None,
         "also": [errors.plain(text) for text in also],
     }
@@ -241,11 +241,12 @@ def _verdict_text(run, source, target, seconds):
     return f"{builds}: {text}" if builds else text
 
 
-def _cause_text(problem):
+def _cause_text(problem, privacy):
     text = errors.plain(problem.error.meaning)
-    quoted = problem.text.partition("'")[2].rpartition("'")[0]
-    if problem.error in (errors.OTHER,):
-        return f"{text}: {problem.text[:200]}"
+    message = privacy.message(problem.text)
+    if problem.error is errors.OTHER:
+        return f"{text}: {message[:200]}"
+    quoted = message.partition("'")[2].rpartition("'")[0]
     return f"{text} ({quoted[:200]})" if quoted and "->" not in quoted else text
 
 
@@ -260,7 +261,7 @@ def _level_lines(state, log):
         lines.append(
             "The log is silent. At the levels as shipped that is a good sign: only errors and warnings show."
         )
-    elif not log.levels.get("launcher_debug", 0) > 4:
+    elif log.records and log.levels.get("launcher_debug", 0) < 5:
         lines.append(
             "Only starts with an error or a warning show: at the levels as shipped a good start writes nothing."
         )

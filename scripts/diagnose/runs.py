@@ -177,7 +177,7 @@ class Run:
     def _failure(self):
         if "not put back" in self.events:
             return "failed, not put back"
-        if "no old" in self.events:
+        if self.events & {"no old", "no source"}:
             return "failed, nothing to go back to"
         if "no-backup" in self.keys:
             return "failed, nothing changed"

@@ -291,16 +291,25 @@ def _measure_space(state, source):
     try:
         volume = os.statvfs(source.real(CORVIMO if source.entry(CORVIMO) else ""))
         installed = source.usage(APP)
-        freed = sum(source.usage(f"{CORVIMO}/{name}").size for name, _ in state.backups)
+        freed = sum(source.usage(path).size for path in _removed_first(state))
     except (OSError, AttributeError):
         return
-    state.free = volume.f_bavail * volume.f_frsize
-    if state.client.state == clients.WHOLE:
-        state.free += freed  # The launcher removes the backups before it unpacks.
+    state.free = volume.f_bavail * volume.f_frsize + freed
     if state.launcher and state.launcher.package.state == "whole":
         state.needed, state.is_estimate = state.launcher.package.unpacked, False
     elif installed and state.client.state == clients.WHOLE:
         state.needed = installed.size
+
+
+def _removed_first(state):
+    """Returns the copies that the launcher removes before it unpacks."""
+    backup = state.whole_backup
+    copies = [(f"{CORVIMO}/{name}", found) for name, found in state.backups]
+    if state.client.state == clients.WHOLE:
+        return [path for path, _ in copies]
+    if state.client.state == clients.TORSO and backup:
+        return [APP] + [path for path, found in copies if found is not backup[1]]
+    return [path for path, found in copies if found.state == clients.TORSO]
 
 
 def _may_write(entry, person):
