@@ -62,7 +62,7 @@ def diagnose(home, launcher, keep):
     log = runs.read_log(source, keep, levels.get("launcher_debug", 4) >= 3)
     last = log.runs[-1] if log.runs else None
     is_unfinished = last and last.verdict in ("ended half-way", "not told")
-    if is_unfinished and state.lock == states.HELD and states.is_running(last.pid):
+    if is_unfinished and state.lock == states.HELD and states.is_running(int(last.pid)):
         last.verdict = "running"
     privacy = Privacy(source.home if source.is_live else None)
     return safe(report.build(source, state, log, privacy), privacy)

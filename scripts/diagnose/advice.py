@@ -18,7 +18,10 @@ def next_step(state, log):
         if step:
             return step
     if last is None or last.verdict in ("not told", "complained"):
-        return "nothing", "Nothing: the client is whole. If there is trouble, set the levels below and start once more."
+        return (
+            "nothing",
+            "Nothing: the client is whole. If there is trouble, set the levels below and start once more.",
+        )
     return "nothing", "Nothing: the client is whole, and the last start ended well."
 
 

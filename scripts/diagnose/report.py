@@ -211,7 +211,7 @@ def _run_item(run, privacy):
     return {
         "begin": run.begin.isoformat(),
         "end": run.end.isoformat(),
-        "pid": run.pid,
+        "pid": int(run.pid),
         "is": run.verdict,
         "text": _verdict_text(run, source, target, seconds),
         "source_build": source,

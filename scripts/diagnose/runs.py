@@ -2,6 +2,7 @@
 
 import collections
 import datetime
+import functools
 import re
 import typing
 
@@ -14,10 +15,12 @@ GAP = datetime.timedelta(minutes=90)
 MAX_OPEN = 64  # Starts at a time whose end may still come.
 MAX_PROBLEMS = 20  # Of one start.
 
-_RECORD = re.compile(
-    rb"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d) \( *(\d+): *\d+\) \[([A-Z]+)\] ([^ (\n]+)\((\d+)\): ?([^\n]*)\n?"
-)
+# A record is its time, its process and thread, and a rest that comes again and again.
+_HEAD = re.compile(rb"\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d \( *(\d{1,10}): *\d{1,10}(?=\) \[)")
+_REST = re.compile(rb"\) \[([A-Z]+)\] ([^ (\n]+)\((\d+)\): ?([^\n]*)\n?")
+_FILE_OPERATION = b") [DEBUG] file-op("  # Most records, where they show at all.
 _LINE = 1 << 14  # Bytes; longer ones are no records of the launcher.
+_KEPT_RESTS = 2000
 LEVELS = {b"ERROR": 3, b"WARNING": 4, b"NOTE": 5, b"INFO": 6, b"DEBUG": 7}
 COMPONENTS = {
     b"main": "launcher_debug",
@@ -47,8 +50,9 @@ _TEXTS = (
     (b"removing aged app folder ", "aged"),
     (b"Failed to extract package, rollback", "roll back"),
     (b"Failed to extract package, and no old", "no old"),
+    (b"failed to put back client from ", "not put back"),
 )
-_BUILD = re.compile(rb"\(.*?, .*?, (.*), .*?\)$")
+_BUILD = re.compile(r"\(.*?, .*?, (.*), .*?\)$")
 
 # The last of these that was seen tells where a start ended that did not end in order.
 _STAGES = (
@@ -88,49 +92,87 @@ class Problem(typing.NamedTuple):
     text: str
 
 
+class Rest(typing.NamedTuple):
+    """What a record says behind its time and its process."""
+
+    level: int
+    component: str
+    event: str
+    build: str
+    problem: typing.Optional[Problem]
+
+
+def _read_rest(text):
+    """Returns what the rest of a record says, or None where it is no record."""
+    found = _REST.fullmatch(text)
+    level = LEVELS.get(found.group(1)) if found else None
+    if level is None:
+        return None
+    source, line, message = found.group(2, 3, 4)
+    event = _FIXED.get((source, line)) or next(
+        (name for begin, name in _TEXTS if message.startswith(begin)), ""
+    )
+    message = message.decode("utf-8", "replace")
+    build = _BUILD.search(message) if event in ("target", "source") else None
+    problem = Problem(errors.find(message), message) if level <= 5 else None
+    if problem and problem.error.key == "no-backup":
+        event = "no backup"
+    return Rest(
+        level, COMPONENTS.get(source, ""), event, build.group(1)[:20] if build else "", problem
+    )
+
+
 class Run:
     """One start of the launcher."""
 
     __slots__ = (
         "pid",
-        "begin",
-        "end",
+        "first",
+        "last",
         "events",
         "builds",
         "levels",
         "problems",
         "verdict",
-        "stage",
         "number",
     )
 
-    def __init__(self, pid, number):
+    def __init__(self, pid, number, time):
         self.pid = pid
         self.number = number
-        self.begin = self.end = None
+        self.first = self.last = time  # As the log has it.
         self.events = set()
         self.builds = {}
         self.levels = {}
         self.problems = []
-        self.verdict = self.stage = ""
-
-    def take(self, level, source, line, message):
-        """Takes one record of the start in."""
-        event = _FIXED.get((source, line)) or _event_of(message)
-        if event:
-            self.events.add(event)
-        if event in ("target", "source"):
-            found = _BUILD.search(message)
-            self.builds[event] = found.group(1).decode("utf-8", "replace")[:20] if found else ""
-        if level <= 5 and len(self.problems) < MAX_PROBLEMS:
-            text = message.decode("utf-8", "replace")
-            self.problems.append(Problem(errors.find(text), text))
-            if "failed" in self.events and self.problems[-1].error.key == "not-put-back":
-                self.events.add("not put back")
+        self.verdict = ""
 
     @property
-    def keys(self):
-        return {problem.error.key for problem in self.problems}
+    def begin(self):
+        return _time(self.first)
+
+    @property
+    def end(self):
+        return _time(self.last)
+
+    def take(self, rest):
+        """Takes one record of the start in."""
+        if rest.level > self.levels.get(rest.component, 0):
+            self.levels[rest.component] = rest.level
+        if rest.problem and len(self.problems) < MAX_PROBLEMS:
+            self.problems.append(rest.problem)
+        event = rest.event
+        if event == "not put back" and "failed" not in self.events:
+            return  # The installation itself may put something whole in place.
+        if event:
+            self.events.add(event)
+        if rest.build:
+            self.builds[event] = rest.build
+
+    @property
+    def stage(self):
+        """Returns how far the start came."""
+        return next((text for event, text in _STAGES if event in self.events), "")
 
     @property
     def cause(self):
@@ -153,33 +195,31 @@ class Run:
 
     def settle(self, expects_done, tells_failure):
         """Gives the start its verdict, knowing whether its end and its failure would stand in the log."""
-        self.stage = next((text for event, text in _STAGES if event in self.events), "")
-        self.verdict = self._verdict(expects_done, tells_failure)
-
-    def _verdict(self, expects_done, tells_failure):
         seen = self.events
+        has_failed = not seen.isdisjoint(("roll back", "no old", "no backup"))
         if "left" in seen:
-            return "another launcher ran"
-        has_failed = bool(seen & {"roll back", "no old"}) or "no-backup" in self.keys
-        if "failed" in seen or (has_failed and ("aged" in seen or not tells_failure)):
-            return self._failure()
-        if "ready" in seen:
-            return "installed"
-        is_cut = "aged" not in seen and "target" in seen
-        if has_failed or (expects_done and "done" not in seen) or is_cut:
-            return "ended half-way"
-        if "no need" in seen:
-            return "nothing to do"
-        if "running" in seen:
-            return "installed"
-        return self._verdict_of_few_records()
+            self.verdict = "another launcher ran"
+        elif "failed" in seen or (has_failed and ("aged" in seen or not tells_failure)):
+            self.verdict = self._failure()
+        elif "ready" in seen:
+            self.verdict = "installed"
+        elif (
+            has_failed
+            or (expects_done and "done" not in seen)
+            or ("target" in seen and "aged" not in seen)
+        ):
+            self.verdict = "ended half-way"
+        elif "no need" in seen:
+            self.verdict = "nothing to do"
+        else:
+            self.verdict = "installed" if "running" in seen else self._verdict_of_few_records()
 
     def _failure(self):
         if "not put back" in self.events:
             return "failed, not put back"
         if self.events & {"no old", "no source"}:
             return "failed, nothing to go back to"
-        if "no-backup" in self.keys:
+        if "no backup" in self.events:
             return "failed, nothing changed"
         return "failed, old copy back" if "roll back" in self.events else "failed"
 
@@ -199,11 +239,20 @@ class Run:
         )
 
 
-def _event_of(message):
-    for text, event in _TEXTS:
-        if message.startswith(text):
-            return event
-    return None
+@functools.lru_cache(maxsize=1000)
+def _time(stamp):
+    """Returns the time of a record; one that the calendar does not have is the earliest of all."""
+    try:
+        return datetime.datetime.fromisoformat(stamp.decode())
+    except ValueError:
+        return datetime.datetime.min
+
+
+def _is_over(run, stamp):
+    """Tells whether a record of that time belongs to another start with the same number."""
+    if "done" in run.events or "left" in run.events:
+        return True
+    return stamp != run.last and _time(stamp) - run.end > GAP
 
 
 class Log:
@@ -217,69 +266,59 @@ class Log:
         self.ends_inside_record = False
         self.runs = collections.deque(maxlen=keep)
         self._open = collections.OrderedDict()
-        self._times = {}
+        self._current = None
+        self._rests = {}
         self._count = 0
         self._expects_done = False
         self._tells_failure = tells_failure
 
     def read(self, stream):
         """Takes one file in."""
-        line, levels = b"\n", LEVELS
+        line = b"\n"
         while True:
             last, line = line, stream.readline(_LINE)
             if not line:
                 break
             self.bytes += len(line)
-            record = _RECORD.fullmatch(line)
-            level = levels.get(record.group(3)) if record else None
-            if level is None:
+            head = _HEAD.match(line)
+            rest = self._rest(line[head.end() :]) if head else None
+            if rest is None:
                 self.other_lines += 1
                 continue
             self.records += 1
-            time, pid, _, source, number, message = record.groups()
-            self._take(time, pid, level, source, number, message)
+            self._take(line[:19], head.group(1), rest)
         self.ends_inside_record = not last.endswith(b"\n")
 
-    def _take(self, stamp, pid, level, source, line, message):
-        time = self._time(stamp)
-        run = self._open.get(pid)
-        is_start = source == b"main" and line == b"106"
-        if (
-            run is None
-            or is_start
-            or "done" in run.events
-            or "left" in run.events
-            or time - run.end > GAP
-        ):
-            run = self._begin(pid, time)
-        else:
-            self._open.move_to_end(pid)
-        run.end = time
-        component = COMPONENTS.get(source)
-        if component and level > run.levels.get(component, 0):
-            run.levels[component] = level
-        if level < 7 or source != b"file-op":
-            run.take(level, source, line, message)
+    def _rest(self, text):
+        rest = self._rests.get(text)
+        if rest is None:
+            kind = _FILE_OPERATION if text.startswith(_FILE_OPERATION) else text
+            rest = self._rests.get(kind) or _read_rest(text)
+            if len(self._rests) >= _KEPT_RESTS:
+                self._rests.clear()
+            if rest is not None and len(kind) < 1000:
+                self._rests[kind] = rest
+        return rest
 
-    def _begin(self, pid, time):
+    def _take(self, stamp, pid, rest):
+        run = self._current
+        if run is None or run.pid != pid:
+            run = self._current = self._open.get(pid)
+        if run is None or rest.event == "start" or _is_over(run, stamp):
+            run = self._current = self._begin(pid, stamp)
+        elif len(self._open) > 1:
+            self._open.move_to_end(pid)
+        run.last = stamp
+        run.take(rest)
+
+    def _begin(self, pid, stamp):
         if pid in self._open:
             self._close(self._open.pop(pid))
         elif len(self._open) >= MAX_OPEN:
             self._close(self._open.popitem(last=False)[1])
         self._count += 1
-        run = self._open[pid] = Run(int(pid), self._count)
-        run.begin = time
+        run = self._open[pid] = Run(pid, self._count, stamp)
         return run
-
-    def _time(self, stamp):
-        if stamp not in self._times:
-            if len(self._times) > 1000:
-                self._times.clear()
-            try:
-                self._times[stamp] = datetime.datetime.fromisoformat(stamp.decode())
-            except ValueError:
-                self._times[stamp] = datetime.datetime.min
-        return self._times[stamp]
 
     def _close(self, run):
         # Where the start before told its end, this one would have told it, too.
