@@ -137,6 +137,8 @@ def read_package(path):
     """Reads a whole package, so that damage shows."""
     entries = {}
     try:
+        if os.path.getsize(path) == 0:
+            return Package("damaged", "it is empty")
         is_zip = _begins_like_zip(path)
         for name, entry in (_zip_entries if is_zip else _tar_entries)(path):
             entries[_normal(name)] = entry
@@ -146,7 +148,8 @@ def read_package(path):
         return Package("other format", str(error))
     except (*_DAMAGE, RuntimeError) as error:
         known = is_zip or entries
-        return Package("damaged" if known else "other format", str(error) if known else "")
+        detail = str(error).replace("File is not a zip file", "its end is missing")
+        return Package("damaged" if known else "other format", detail if known else "")
     except OSError as error:
         return Package("damaged", error.strerror or str(error))
     if not entries:

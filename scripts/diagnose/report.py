@@ -22,8 +22,8 @@ def amount(size):
         size /= 1000
 
 
-def _count(number, what):
-    return f"{number:,} {what}{'' if number == 1 else 's'}"
+def _count(number, one, many=""):
+    return f"{number:,} {one if number == 1 else many or one + 's'}"
 
 
 def build(source, state, log, privacy):
@@ -57,11 +57,9 @@ def _state_items(source, state):
     yield "owners", _item("bad", "; ".join(state.obstacles), _BAD) if state.obstacles else _item(
         "good", "nothing stands in the way of an upgrade", _GOOD
     )
-    others = [_count(state.leftovers, "copy that could not be removed").replace("copys", "copies")]
     if state.leftovers:
-        yield "left over", _item(
-            "leftovers", f"{others[0]}, under random names in ~/.Corvimo: remove by hand", _BAD
-        )
+        copies = _count(state.leftovers, "copy", "copies") + " that the launcher could not remove"
+        yield "left over", _item("leftovers", f"{copies}, under random names in ~/.Corvimo", _BAD)
 
 
 def _client_item(state):
@@ -107,12 +105,14 @@ def _launcher_item(state):
     package = launcher.package
     detail = f" ({package.detail})" if package.detail else ""
     texts = {
-        "whole": f"its package is whole, {_count(len(package.entries), 'entry').replace('entrys', 'entries')}",
+        "whole": f"its package is whole, {_count(len(package.entries), 'entry', 'entries')}",
         "damaged": f"its package is damaged{detail}",
         "missing": "its package is missing",
         "other format": f"its package has a format that this tool cannot compare{detail}",
     }
     will = {True: "the next start installs it", False: "the next start has nothing to do", None: ""}
+    if package.state in ("damaged", "missing"):
+        will[True] = "the next start tries to install it, and fails"
     build = f"build {launcher.build}" if launcher.build is not None else "its INFO names no build"
     parts = [build, texts[package.state], will[state.will_install]]
     good = package.state in ("whole", "other format") and launcher.build is not None
@@ -292,7 +292,7 @@ def text_lines(report, has_colour):
     yield ""
     yield paint("State", _BOLD)
     for name, item in report["state"].items():
-        yield f"  {name:<14}" + paint(item["text"], _COLOURS[item["good"]])
+        yield f"  {name:<15}" + paint(item["text"], _COLOURS[item["good"]])
     yield ""
     hidden = report["starts"]["count"] - len(report["runs"])
     yield paint("Starts, oldest first", _BOLD)

@@ -47,7 +47,6 @@ class State:
     comparison: typing.Optional[clients.Comparison] = None
     backups: list = dataclasses.field(default_factory=list)  # Of (name, client).
     leftovers: int = 0  # Copies that could not be removed, under random names.
-    other_objects: int = 0
     older: bool = False
     older_data: typing.Optional[sources.Usage] = None
     move_is_unfinished: bool = False
@@ -121,7 +120,6 @@ def _look_at_folders(state, source):
                 path + "/Contents"
             )
             state.leftovers += bool(is_leftover)
-            state.other_objects += not is_leftover and name not in KNOWN
     with contextlib.suppress(OSError):
         state.data = source.usage(CORVIMO + "/data")
         state.older = source.entry(LUMAPORT) is not None
