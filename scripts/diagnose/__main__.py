@@ -88,9 +88,11 @@ def main():
     try:
         result = diagnose(arguments.home, arguments.launcher, arguments.runs)
     except (sources.Unusable, OSError) as error:
+        subject = getattr(error, "subject", "") or Privacy(os.path.expanduser("~")).shown(
+            arguments.home
+        )
         reason = error.strerror if isinstance(error, OSError) else error
-        named = Privacy(os.path.expanduser("~")).shown(arguments.home)
-        print(f"diagnose.sh: {named}: {reason}", file=sys.stderr)
+        print(f"diagnose.sh: {subject}: {reason}", file=sys.stderr)
         return 1
     if arguments.json:
         print(json.dumps(result, indent=2, ensure_ascii=False))

@@ -32,6 +32,10 @@ MAX_PATH = 4096
 class Unusable(Exception):
     """What is wrong with an input, and what to do about it, in words for the person who ran us."""
 
+    def __init__(self, reason, subject=""):
+        super().__init__(reason)
+        self.subject = subject  # Empty for the home folder or the archive.
+
 
 class NotAFile(Exception):
     """Says that something else than a regular file is in its place."""

@@ -132,7 +132,7 @@ def look_at_launcher(path):
     resources = os.path.join(path, "Contents/Resources")
     if not os.path.isdir(resources):
         raise sources.Unusable(
-            "this is no launcher: it has no folder Contents/Resources; name a Corvimo.app"
+            "it has no folder Contents/Resources; name a launcher, Corvimo.app", "--launcher"
         )
     bundle = sources.Folder(resources)
     build = None
