@@ -17,16 +17,16 @@ diagnose.sh HOME [--launcher Corvimo.app]     tell of the installation in a home
 diagnose.sh ARCHIVE [--launcher Corvimo.app]  tell of one that a person has sent
 diagnose.sh --errors                          print the table of errors of docs/shipping.md
 
-Tells in plain words what state an installation of the client is in, what happened in each start of the
-launcher, and what to do next. It only reads. With the launcher's bundle at hand it also compares the
-installed client with the package, file by file.
+Tells in plain words what state an installation of the client is in, what happened in each start of
+the launcher, and what to do next. It only reads. With the launcher's bundle at hand it also compares
+the installed client with the package, file by file.
 
-The report may be pasted into a ticket: the home folder is shown as ~, and the person's own files are counted
-but never named. A person makes the archive with
+The report may be pasted into a ticket: the home folder is shown as ~, and the person's own files are
+counted but never named. A person makes the archive with
 
   tar -C ~ --exclude .Corvimo/data -czf ~/corvimo-report.tar.gz .Corvimo
 
-Exits 0 when it could tell, whatever it tells, 1 when there is nothing to look at, 2 on wrong usage."""
+Exits 0 with a report, whatever it tells, 1 when there is nothing to look at, 2 on wrong usage."""
 
 RUNS = 30
 

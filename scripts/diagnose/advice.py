@@ -20,7 +20,7 @@ def next_step(state, log):
     if last is None or last.verdict in ("not told", "complained"):
         return (
             "nothing",
-            "Nothing: the client is whole. If there is trouble, set the levels below and start once more.",
+            "Nothing: the client is whole. If there is trouble, set the levels above and start once more.",
         )
     return "nothing", "Nothing: the client is whole, and the last start ended well."
 
@@ -67,7 +67,7 @@ def _of_broken_client(state, last):
     if state.will_install is False:
         return (
             "remove",
-            "Move ~/.Corvimo/Corvimo.app away and start the launcher: it takes the copy for current.",
+            "Move ~/.Corvimo/Corvimo.app away and start the launcher, which takes it for current.",
         )
     return "start", "Start the launcher: it installs the client."
 
@@ -76,7 +76,7 @@ def _of_last_failure(state, last):
     if state.comparison and not state.comparison.is_equal:
         return (
             "remove",
-            "Quit the client, move ~/.Corvimo/Corvimo.app away and start the launcher: it installs it anew.",
+            "Quit the client, move ~/.Corvimo/Corvimo.app away and start the launcher.",
         )
     if last is None:
         return None

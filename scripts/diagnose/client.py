@@ -1,4 +1,4 @@
-"""The launcher's own judgement of a copy of the client, and the comparison of one with the package."""
+"""Judges a copy of the client as the launcher does, and compares it with the package."""
 
 import errno
 import lzma
@@ -54,7 +54,7 @@ def leading_number(text):
 
 
 def decides(source, path):
-    """Returns what the launcher compares with its package: the installed build, None without an executable."""
+    """Returns the installed build as the launcher compares it; None without an executable."""
     try:
         source.followed(f"{path}/{EXECUTABLE}")
     except OSError:

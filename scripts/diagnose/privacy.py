@@ -1,4 +1,4 @@
-"""Makes a text safe to paste: no home folder, no name of the person's own files, nothing for a terminal to obey."""
+"""Makes a text safe to paste: without the home folder, the person's own files and control characters."""
 
 import os
 import re
@@ -21,7 +21,7 @@ class Privacy:
         self._homes = sorted(names - {"/"}, key=len, reverse=True)
 
     def shown(self, text):
-        """Returns a text with `~` for the home folder and without what lies below the data folders."""
+        """Returns a text with `~` for the home folder and without names of the person's files."""
         text = _without_data(text)
         for home in self._homes:
             text = re.sub(re.escape(home) + r"(?![\w.-])", "~", text)

@@ -16,10 +16,13 @@ _GOOD, _BAD, _PLAIN = True, False, None
 
 def amount(size):
     """Returns a number of bytes in words."""
-    for unit in ("bytes", "kB", "MB", "GB"):
-        if size < 1000 or unit == "GB":
-            return f"{size:.0f} {unit}" if size >= 10 or unit == "bytes" else f"{size:.1f} {unit}"
+    if size < 1000:
+        return _count(size, "byte")
+    for unit in ("kB", "MB", "GB"):
         size /= 1000
+        if size < 1000 or unit == "GB":
+            break
+    return f"{size:.0f} {unit}" if size >= 10 else f"{size:.1f} {unit}"
 
 
 def _count(number, one, many=""):
@@ -194,7 +197,7 @@ def _log_notes(source, log):
     elif log.other_lines:
         yield f"{_count(log.other_lines, 'line')} of the log hold no record, or a part of one."
     if log.ends_inside_record:
-        yield "The log ends inside a record: the disk was full, or the log was copied while it was written."
+        yield "The log ends inside a record: the disk was full, or a launcher was writing."
     if not log.files and not log.notes:
         yield "There is no log: no launcher was started here, or it could not write."
 
@@ -259,18 +262,18 @@ def _level_lines(state, log):
         return lines
     if not log.records:
         lines.append(
-            "The log is silent. At the levels as shipped that is a good sign: only errors and warnings show."
+            "The log is silent: a good sign, since it holds errors and warnings at the levels as shipped."
         )
     elif log.records and log.levels.get("launcher_debug", 0) < 5:
         lines.append(
-            "Only starts with an error or a warning show: at the levels as shipped a good start writes nothing."
+            "Only starts with an error or a warning show here: a good one writes nothing at these levels."
         )
     set_already = [name for name in low if launcher and (launcher.levels or {}).get(name, 4) >= 7]
     wanted = " ".join(f"{name}=7" for name in low if name not in set_already)
     lines += [f"{name}=7 would tell {_TELL[name]}." for name in low]
     if wanted:
         lines.append(
-            f"Set {wanted}, each on a line of its own, in Contents/Resources/log/launcher.debug of the launcher."
+            f"Set {wanted}, a line for each, in the launcher's Contents/Resources/log/launcher.debug."
         )
     return lines
 

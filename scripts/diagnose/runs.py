@@ -1,4 +1,4 @@
-"""What the log tells of each start: its records are grouped by start, and each start gets a verdict."""
+"""Groups the records of the log by start, and gives each start a verdict."""
 
 import collections
 import datetime
@@ -9,8 +9,8 @@ import typing
 import errors
 import source as sources
 
-# A process id may name another start later. It does after a silence that no start keeps, and which is longer than
-# the hour that a clock skips in spring.
+# After such a silence a process id names another start. It is longer than the hour that a clock skips in
+# spring.
 GAP = datetime.timedelta(minutes=90)
 MAX_OPEN = 64  # Starts at a time whose end may still come.
 MAX_PROBLEMS = 20  # Of one start.
@@ -31,7 +31,7 @@ COMPONENTS = {
     b"file-op": "file_op_debug",
 }
 
-# The events that records tell of: by source and line where these are fixed, by the text's beginning elsewhere.
+# The events that records tell of, by source and line where these are fixed, and by the text elsewhere.
 _FIXED = {
     (b"main", b"106"): "start",
     (b"main", b"154"): "left",
@@ -86,7 +86,7 @@ VERDICTS = {
 
 
 class Problem(typing.NamedTuple):
-    """A record that complains: its row of the table, and the text between its quotes or the system's reason."""
+    """A record that complains, and its row of the table."""
 
     error: errors.Error
     text: str
@@ -194,7 +194,7 @@ class Run:
         return list({p.error.key: p.error for p in self.problems if p.error.role in roles}.values())
 
     def settle(self, expects_done, tells_failure):
-        """Gives the start its verdict, knowing whether its end and its failure would stand in the log."""
+        """Gives the start its verdict, knowing whether its end and its failure would show."""
         seen = self.events
         has_failed = not seen.isdisjoint(("roll back", "no old", "no backup"))
         if "left" in seen:

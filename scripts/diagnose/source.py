@@ -82,7 +82,7 @@ def checksum(stream):
 
 
 def walk(source, folder):
-    """Yields (path, entry) for everything below a folder; for what cannot be listed, (path, None)."""
+    """Yields (path, entry) for everything below a folder; the entry is None where it is refused."""
     waiting = [folder]
     while waiting:
         current = waiting.pop()
@@ -115,7 +115,7 @@ class Folder:
         return os.path.join(self.home, path)
 
     def entry(self, path):
-        """Returns the object at a path, or None where there is nothing. Raises OSError when refused."""
+        """Returns the object at a path, None where there is none. Raises OSError when refused."""
         try:
             status = os.lstat(self.real(path))
             target = os.readlink(self.real(path)) if stat.S_ISLNK(status.st_mode) else ""
@@ -125,7 +125,7 @@ class Folder:
         return Entry(status.st_mode, status.st_size, status.st_uid, status.st_mtime, flags, target)
 
     def followed(self, path):
-        """Returns the object at a path, links followed. Raises OSError also where there is nothing."""
+        """Returns the object at a path, links followed. Raises OSError where there is none."""
         status = os.stat(self.real(path))
         return Entry(status.st_mode, status.st_size, status.st_uid, status.st_mtime)
 
@@ -143,7 +143,7 @@ class Folder:
 
     @contextlib.contextmanager
     def opened(self, path):
-        """Gives a stream of a regular file; opening anything else might wait for another process."""
+        """Opens a regular file; opening anything else might wait for another process."""
         flags = os.O_RDONLY | os.O_NONBLOCK | os.O_NOCTTY | os.O_CLOEXEC
         try:
             descriptor = os.open(self.real(path), flags)
@@ -246,7 +246,7 @@ class Archive:
         except _DAMAGE as error:
             if not self._entries and not self._data_files:
                 raise Unusable(
-                    f"it is neither a home folder nor a tar archive ({error}); ask for one as docs/shipping.md tells"
+                    f"it is neither a home folder nor a tar archive ({error}); docs/shipping.md has the command"
                 ) from None
             self.notes.append(
                 f"The archive is damaged or cut ({error}): what follows in it is missing here."
@@ -257,9 +257,7 @@ class Archive:
                 f"{count}: they have no place in a home folder, or there are too many."
             )
         if not any(self.entry(folder) for folder in (CORVIMO, LUMAPORT)):
-            raise Unusable(
-                "the archive holds no folder .Corvimo; ask for one as docs/shipping.md tells"
-            )
+            raise Unusable("the archive holds no folder .Corvimo; docs/shipping.md has the command")
 
     def _read_members(self, tar):
         while True:
@@ -273,7 +271,7 @@ class Archive:
                 self._refused += 1
 
     def _place(self, name):
-        """Returns the path below the home folder, "" for what tells nothing, and None for what would lead out."""
+        """Returns the path below the home folder, "" for what is skipped, None for what is refused."""
         parts = [part for part in name.split("/") if part not in ("", ".")]
         if name.startswith("/") or ".." in parts or "\0" in name or len(name) > MAX_PATH:
             return None
@@ -401,7 +399,7 @@ def open_source(path):
         return Folder(path)
     if not os.path.exists(path):
         raise Unusable(
-            "there is no such folder or archive; name a person's home folder or an archive of ~/.Corvimo"
+            "there is no such folder or archive; name a home folder or an archive of ~/.Corvimo"
         )
     if not os.path.isfile(path):
         raise Unusable(

@@ -161,7 +161,7 @@ def _levels(bundle):
         entry = _ENTRY.fullmatch(line)
         if not entry:
             return None, [
-                f"Line {number} of launcher.debug is no entry, so the launcher takes none of the file."
+                f"Line {number} of launcher.debug is no entry, so the whole file is void."
             ]
         value = next(part for part in entry.groups()[1:] if part is not None)
         level = re.match(r"\s*[+-]?\d+", value)
@@ -199,7 +199,7 @@ def lock_state(path):
 
 
 def is_running(pid):
-    """Tells whether a process has the number. Sends nothing to it, and asks for no group of processes."""
+    """Tells whether a process has the number. Sends nothing, and asks for no group."""
     if not 0 < pid < 2**31:
         return False
     try:
@@ -248,11 +248,11 @@ def client_process(source):
     if started is not None and entry and started > entry.mtime + FILE_TIME_TOLERANCE:
         return (
             "other",
-            f"process {pid} is another program that has the number now: the launcher leaves it alone",
+            f"process {pid} is another program by now: the launcher leaves it alone",
         )
     return (
         "maybe",
-        f"process {pid} runs from elsewhere, but is as old as the file: the launcher takes it for the client",
+        f"process {pid} runs from elsewhere, but is old enough: the launcher takes it for the client",
     )
 
 
@@ -328,7 +328,7 @@ _LOCKED = sum(
 
 
 def obstacles(source):
-    """Yields a sentence for each owner, mode or kind that keeps an upgrade, the lock or the log from working."""
+    """Yields a sentence for each owner, mode or kind that stops an upgrade, the lock or the log."""
     person = _person(source)
     for path, needs, is_folder in (
         (CORVIMO, "nothing can be installed", True),
@@ -388,7 +388,7 @@ def _foreign_objects(source, person):
         top = source.entry(folder)
         count += bool(top) and top.uid not in (person, -1)
         if count:
-            yield f"{count} objects in ~/{folder} belong to somebody else: the launcher cannot remove them"
+            yield f"{count} objects in ~/{folder} belong to somebody else and cannot be removed"
 
 
 def _home_obstacles(source, person):

@@ -26,7 +26,11 @@ RECORD, SAMPLE = [block for block in BLOCKS if block.startswith("20")]
 VARIABLE = re.compile(r"[\dT:-]{19} \( *(\d+): *(\d+)\)")
 
 # Waits for the end of the test's part that looks at a running launcher.
-HOLD = '#!/bin/sh\ntouch "$HOME/held"\nwhile [ -e "$HOME/held" ] && [ -d "/proc/$TESTER" ]; do sleep 0.05; done\n'
+HOLD = """\
+#!/bin/sh
+touch "$HOME/held"
+while [ -e "$HOME/held" ] && [ -d "/proc/$TESTER" ]; do sleep 0.05; done
+"""
 
 
 def diagnose(scene, *arguments):
@@ -34,12 +38,49 @@ def diagnose(scene, *arguments):
     return json.loads(subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout)
 
 
+# Changes of a machine before a start.
+def tools(scene):
+    for tool in (REGISTER, OPEN):
+        write(scene.contents / tool, "#!/nowhere", 0o755)
+
+
+def data_on_both_sides(scene):
+    (scene.home / CLIENT).unlink()
+    write(scene.home / ".Lumaport/data/secret", "x")
+
+
+def pipe(scene):
+    (scene.home / ".Corvimo/log").mkdir()
+    os.mkfifo(scene.home / ".Corvimo/log/launcher.log")
+
+
+def not_executable(scene):
+    (scene.home / CLIENT).chmod(0o644)
+    write(scene.home / APP / "Contents/Resources/INFO", FULL_INFO.format(101))
+
+
+def no_archive(scene):
+    scene.package.write_text("x")
+
+
+def no_package(scene):
+    scene.package.unlink()
+
+
+def no_entries(scene):
+    zipfile.ZipFile(scene.package, "w").close()
+
+
+def owner(scene):
+    os.chown(scene.home, NOBODY, NOBODY)
+
+
 class Watched(World):
     def run_with_fault(self, *fault):
         self.is_killed = super().run_with_fault(*fault)
         return self.is_killed
 
-    # Starts the launcher and gives the verdicts of which one is right, none where nothing was logged.
+    # Starts the launcher and gives the verdicts that may be right, None where nothing was logged.
     def verdicts_after(self, start, is_loud):
         size = self.log_file.stat().st_size if self.log_file.is_file() else 0
         before = self.whole(self.app)
@@ -101,75 +142,24 @@ class DiagnoseTest(unittest.TestCase):
         return scene
 
     def test_tells_of_each_trouble(self):
-        def tools(scene):
-            for tool in (REGISTER, OPEN):
-                write(scene.contents / tool, "#!/nowhere", 0o755)
-
-        def data_on_both_sides(scene):
-            (scene.home / CLIENT).unlink()
-            write(scene.home / ".Lumaport/data/secret", "x")
-
-        def pipe(scene):
-            (scene.home / ".Corvimo/log").mkdir()
-            os.mkfifo(scene.home / ".Corvimo/log/launcher.log")
-
-        def not_executable(scene):
-            (scene.home / CLIENT).chmod(0o644)
-            write(scene.home / APP / "Contents/Resources/INFO", FULL_INFO.format(101))
-
-        def other_number(scene):
-            write(scene.home / ".Corvimo/ui.pid", f"pid={os.getpid()}\n")
-            os.utime(scene.home / ".Corvimo/ui.pid", (0, 0))
-
-        owner = {"home": lambda s: os.chown(s.home, NOBODY, NOBODY)}
-        # What is changed before the start; the verdict; what cause or complaint, state and step must hold.
+        failed = "failed, old copy back"
+        # What is changed, the verdict, what the complaint and what the state must hold, and the step.
         rows = {
             "nothing": (None, "installed", "", "", "nothing"),
-            "no archive": (
-                lambda s: s.package.write_text("x"),
-                "failed, old",
-                "no archive",
-                "",
-                "cause",
-            ),
-            "no package": (
-                lambda s: s.package.unlink(),
-                "failed, old",
-                "missing",
-                "is missing",
-                "package",
-            ),
-            "no entries": (
-                lambda s: zipfile.ZipFile(s.package, "w").close(),
-                "failed, old",
-                "without entries",
-                "",
-                "package",
-            ),
+            "no archive": (no_archive, failed, "no archive", "", "cause"),
+            "no package": (no_package, failed, "missing", "is missing", "package"),
+            "no entries": (no_entries, failed, "without entries", "", "package"),
             "no tools": (tools, "installed", "could not be started", "", "cause"),
-            "data on both sides": (
+            "two datas": (
                 data_on_both_sides,
                 "installed",
-                "older product's data",
-                "1 file, 1 bytes",
+                "older product's",
+                "1 file, 1 byte",
                 "merge",
             ),
             "pipe for a log": (pipe, None, "", "not a file", "obstacle"),
-            "not executable": (
-                not_executable,
-                "nothing to do",
-                "",
-                "may not be executed",
-                "remove",
-            ),
-            "another program's number": (
-                other_number,
-                "installed",
-                "",
-                "leaves it alone",
-                "nothing",
-            ),
-            "a folder of root": (owner["home"], "installed", "", "belongs to root", "owner"),
+            "mode": (not_executable, "nothing to do", "", "may not be executed", "remove"),
+            "folder of root": (owner, "installed", "", "belongs to root", "owner"),
         }
         for name, (change, verdict, complaint, told, step) in rows.items():
             with self.subTest(name):
@@ -178,9 +168,8 @@ class DiagnoseTest(unittest.TestCase):
                 scene.wait_for()
                 report = diagnose(scene, "--launcher", scene.contents.parent)
                 runs = report["runs"]
-                self.assertEqual(verdict is not None, len(runs) == 1, runs)
+                self.assertEqual([verdict] if verdict else [], [run["is"] for run in runs])
                 if runs:
-                    self.assertTrue(runs[0]["is"].startswith(verdict), runs)
                     self.assertIn(complaint, f"{runs[0]['cause']} {runs[0]['also']}")
                 self.assertIn(told, json.dumps(report["state"]) + str(report["notes"]))
                 self.assertEqual(step, report["next_step"]["is"], report)

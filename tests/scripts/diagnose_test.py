@@ -6,6 +6,7 @@ import json
 import os
 import pathlib
 import resource
+import shutil
 import subprocess
 import sys
 import tarfile
@@ -44,7 +45,7 @@ LEFT = "DEBUG main(154): app has already launched, return"
 NO_TOOL = "ERROR mac/mac-service(1): Cannot unregister bundle, x"
 BACK, HALF, DAY = "failed, old copy back", "ended half-way", "2026-11-22T10:00:00"
 
-# Each record is what follows its time and process; a tuple gives these, too. The verdicts, oldest first.
+# Records, without time and process unless they are tuples; and the verdicts, oldest first.
 LOGS = {
     "all of an upgrade": ([START, RUNNING, TARGET, OLD, UNPACK, READY, AGED, DONE], ["installed"]),
     "all of nothing": ([START, RUNNING, TARGET, SAME, NO_NEED, AGED, DONE], ["nothing to do"]),
@@ -252,24 +253,32 @@ class DiagnoseTest(unittest.TestCase):
         self.assertEqual("other format", report["state"]["launcher"]["is"])
 
     def test_tells_of_lock_and_process(self):
-        self.write(self.home / ".Corvimo/launcher.lock", b"")
-        lock = open(self.home / ".Corvimo/launcher.lock", "rb")
-        self.addCleanup(lock.close)
-        for pid, held, word in (
-            (0, True, "no process"),
-            (-1, True, "no process"),
-            (2**22 + 1, False, "gone"),
-            (2**32, False, "no process"),
-            (1, False, "maybe"),
+        own = shutil.copy(shutil.which("sleep"), self.home / APP)
+        program, client = (subprocess.Popen([path, "1000"]) for path in ("sleep", own))
+        for process in program, client:
+            self.addCleanup(process.wait)
+            self.addCleanup(process.kill)
+        pid_file, lock_file = (
+            self.home / ".Corvimo" / name for name in ("ui.pid", "launcher.lock")
+        )
+        self.write(lock_file, b"")
+        lock = self.enterContext(open(lock_file, "rb"))
+        for pid, is_held, time, word in (
+            (0, True, None, "no process"),
+            (-1, False, None, "no process"),
+            (2**32, False, None, "no process"),
+            (2**22 + 1, False, None, "gone"),
+            (program.pid, False, None, "maybe"),
+            (program.pid, False, (0, 0), "other"),
+            (client.pid, False, (0, 0), "client"),
         ):
-            fcntl.flock(lock, fcntl.LOCK_EX if held else fcntl.LOCK_UN)
-            self.write(self.home / ".Corvimo/ui.pid", f"# x\npid = {pid}\n")
+            fcntl.flock(lock, fcntl.LOCK_EX if is_held else fcntl.LOCK_UN)
+            self.write(pid_file, f"# x\npid = {pid}\n")
+            os.utime(pid_file, time)
             state = self.report()["state"]
-            self.assertEqual(
-                ("held" if held else "free", word),
-                (state["lock"]["is"], state["process"]["is"]),
-                pid,
-            )
+            found = state["lock"]["is"], state["process"]["is"]
+            self.assertEqual(("held" if is_held else "free", word), found, pid)
+        fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)  # The tool has given it back.
 
     # An archive of these members; each is a name, or a name with what else is set.
     def archive(self, *members, mode="w:gz"):
