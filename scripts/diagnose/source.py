@@ -25,7 +25,7 @@ SMALL = 1 << 20  # Bytes of a file that is read as a whole.
 BLOCK = 1 << 16
 MAX_UNPACKED = 4 << 30  # Bytes of an archive's content.
 MAX_LOG = 512 << 20  # Bytes of all logs in an archive; the launcher keeps at most 250 MiB.
-MAX_NAMES = 32 << 20  # Bytes of all paths of an archive outside the data folders.
+MAX_NAMES = 16 << 20  # Bytes of all paths of an archive outside the data folders.
 MAX_PATH = 4096
 
 

@@ -354,7 +354,7 @@ class DiagnoseTest(unittest.TestCase):
             ("large name", [("x", long, b"x" * 3 * MEBIBYTE)], "header that is too large"),
             ("many names", [("x" * 99, long, b"y" * 99)] * 999, None),
             ("hole", [(".Corvimo/x", sparse, b"")], "left out"),
-            ("map without end", [(".Corvimo/x", hole, b"9\n" + b"1" * MEBIBYTE)], "damaged or cut"),
+            ("map without end", [(".Corvimo/x", hole, b"1\n1\n1\n")], "a sparse file"),
         ):
             with self.subTest(name):
                 report = self.tell(self.archive(*members), timeout=60)
