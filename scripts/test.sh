@@ -7,6 +7,7 @@
 # - all tests with clang and Qt 6
 # - the bundle for macOS, as far as Linux can check it
 # - each fuzzer for 10 seconds
+# - the names of tests in docs/reliability.md
 # - clang-tidy and cppcheck
 # - all tests in the everyday build
 set -euo pipefail
@@ -23,6 +24,21 @@ build() {
     cmake --preset "$preset" >/dev/null
     cmake --build --preset "$preset" --parallel "$jobs" "$@" >build/"$preset".log ||
         { cat build/"$preset".log; return 1; }
+}
+
+# Fails if docs/reliability.md names a test that does not exist. "*" stands for any part of a name.
+# shellcheck disable=SC2016 # The backticks are those of Markdown.
+check_named_tests() {
+    local tests name missing=0
+    tests=$(ctest --preset dev --show-only)
+    while read -r name; do
+        if ! grep -qE ": ${name//\*/.*}\$" <<<"$tests"; then
+            echo "docs/reliability.md: there is no test $name" >&2
+            missing=1
+        fi
+    done < <(grep -oE '`([A-Z][A-Za-z]+\.[A-Z*]|[a-z]+_test_|faults_)[A-Za-z0-9_*]*`' docs/reliability.md |
+        tr -d '`' | sort -u)
+    return "$missing"
 }
 
 echo "== Format"
@@ -45,5 +61,6 @@ echo "== fuzz"
 scripts/fuzz.sh 10
 
 build dev
+check_named_tests
 scripts/analyse.sh
 ctest --preset dev --parallel "$jobs"
