@@ -81,7 +81,8 @@ UniqueFd OpenForCopy(const std::string& path, int flags, mode_t mode = 0) {
 
 int MoveFolderAcrossVolumes(const std::string& source, const std::string& destination, bool exact) {
     std::vector<std::string> names;
-    if (FSMKDir(destination, true) != 0 || !file_op::ReadNames(source, names)) {
+    if (FSMKDir(destination, true) != 0 ||
+        !file_op::ReadNames(file_op::OpenFolder(source), names)) {
         return -3;
     }
     for (const std::string& name : names) {
@@ -128,7 +129,9 @@ int FSRename(const std::string& source, const std::string& destination, bool exa
         return -1;
     }
     _FILE_INFO_tag info;
-    if (!IsFileExist(source, exact) || GetFileInfo(source, info) < 0 || !info.exists) {
+    // One inspection answers for IsFileExist, too.
+    if (GetFileInfo(source, info) < 0 || !info.exists ||
+        (exact && !file_op::IsStoredPath(source, info))) {
         return -2;
     }
     if (std::rename(source.c_str(), destination.c_str()) == 0) {

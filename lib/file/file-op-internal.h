@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "lib/file/file-op.h"
 #include "lib/log.h"
 
 #define LOG_SOURCE "file-op"
@@ -45,6 +46,10 @@ constexpr int RecordLine(std::string_view file, int line) {
 
 static_assert(RecordLine("lib/file/folders.cpp", 42) == 3042);
 
+/// Returns whether the path by which an object was inspected is its stored path. Composed and
+/// decomposed characters are equal.
+bool IsStoredPath(const std::string& path, const _FILE_INFO_tag& info);
+
 /// Returns whether the name of a directory entry means its folder itself or the parent folder.
 bool IsDotOrDotDot(const char* name);
 
@@ -57,14 +62,17 @@ using UniqueDir = std::unique_ptr<DIR, CloseFolder>;
 /// errno set on failure.
 UniqueDir OpenFolder(const std::string& path);
 
+/// The same for an entry of an open folder, or for a path relative to AT_FDCWD. Does not follow a
+/// final symbolic link.
+UniqueDir OpenFolderAt(int parent, const char* name);
+
 /// Appends the names of the entries of a folder, without "." and "..", in the system's order.
-/// Returns false if the folder cannot be opened. A read error ends the names early and is not
-/// reported.
+/// Returns false for a null stream. A read error ends the names early and is not reported.
 ///
 /// All names are read before the caller touches an entry, for two reasons. Some file systems skip
 /// entries of a folder that changes during its listing. And a caller that descends thousands of
 /// levels keeps no descriptor open.
-bool ReadNames(const std::string& folder, std::vector<std::string>& names);
+bool ReadNames(UniqueDir folder, std::vector<std::string>& names);
 
 }  // namespace file_op
 

@@ -122,23 +122,25 @@ int FSRename(const std::string& source, const std::string& destination, bool exa
 /// Removes an object and, for a folder, everything below it. The flag has no effect.
 ///
 /// Symbolic links are removed and not followed, except that the system follows a link if `path`
-/// ends in "/". Nothing outside the tree is removed, even if another program replaces folders of
-/// the tree by symbolic links at the same time. The depth of the tree is not limited. At most 18
-/// descriptors are open at a time.
+/// ends in "/". The tree is what is below the folder that was inspected: nothing else is removed,
+/// even if another program replaces folders of the tree by symbolic links at the same time. Only
+/// the folder that is being listed stays a part of the tree if another program moves it away. The
+/// depth of the tree is not limited. At most 18 descriptors are open at a time.
 ///
 /// Returns 0, also if the object is missing, or if it is a folder that cannot be opened, which then
 /// stays; -1 for an empty path or an object that cannot be inspected; -3 if something cannot be
 /// removed. A removal with the result -3 stops early, and the rest of the tree stays. The causes
 /// are:
 /// - A folder below `path` cannot be opened. The other entries of its parent are removed first.
-/// - A folder below `path` is on another volume (a mount point). Nothing in it is removed.
+/// - A volume is mounted on a folder below `path`. Nothing on it is removed.
 /// - The system refuses the removal of an entry.
 ///
 /// The only records are those of GetFileInfo, and its DEBUG records for each entry.
 int FSRemove(const std::string& path, bool unused);
 
 /// Gives the owner of a folder the rights to read, to change and to search it, and does the same
-/// for every folder below it. Does not change other objects, and does not follow symbolic links.
+/// for every folder below it on the same volume. Does not change other objects, and does not follow
+/// symbolic links.
 ///
 /// Returns 0, also for a file. Returns -1 if an object cannot be inspected, or if a folder cannot
 /// be changed or opened. Then the folders below that folder are not changed, but all others are. A

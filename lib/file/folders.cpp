@@ -77,20 +77,22 @@ int FSMKDirP(const std::string& path) {
 }
 
 // Gives the owner of a folder all rights, and appends the paths of the folder's entries to
-// `entries`. Does nothing to any other object. Returns 0 or -1.
-int MakeFolderWritable(const std::string& path, std::vector<std::string>& entries) {
+// `entries`. Does nothing to any other object, or on another volume. Returns 0 or -1.
+int MakeFolderWritable(const std::string& path, dev_t volume, std::vector<std::string>& entries) {
     struct stat status;
     if (lstat(path.c_str(), &status) != 0) {
         return -1;
     }
-    if (!S_ISDIR(status.st_mode)) {
+    if (!S_ISDIR(status.st_mode) || status.st_dev != volume) {
         return 0;
     }
     const bool is_writable = (status.st_mode & S_IRWXU) == S_IRWXU;
+    if (!is_writable && fchmodat(AT_FDCWD, path.c_str(), (status.st_mode & 07777) | S_IRWXU,
+                                 AT_SYMLINK_NOFOLLOW) != 0) {
+        return -1;
+    }
     std::vector<std::string> names;
-    if ((!is_writable && fchmodat(AT_FDCWD, path.c_str(), (status.st_mode & 07777) | S_IRWXU,
-                                  AT_SYMLINK_NOFOLLOW) != 0) ||
-        !file_op::ReadNames(path, names)) {
+    if (!file_op::ReadNames(file_op::OpenFolderAt(AT_FDCWD, path.c_str()), names)) {
         return -1;
     }
     for (const std::string& name : names) {
@@ -149,12 +151,16 @@ int FSMKDirFromRoot(const std::string& target, const std::string& root) {
 }
 
 int FSMakeFoldersWritable(const std::string& path) {
+    struct stat status;
+    if (lstat(path.c_str(), &status) != 0) {
+        return -1;
+    }
     int result = 0;
     std::vector<std::string> remaining = {path};
     while (!remaining.empty()) {
         const std::string object = std::move(remaining.back());
         remaining.pop_back();
-        if (MakeFolderWritable(object, remaining) != 0) {
+        if (MakeFolderWritable(object, status.st_dev, remaining) != 0) {
             result = -1;
         }
     }

@@ -54,6 +54,10 @@ std::string Composed(const std::string& path) {
 
 }  // namespace
 
+bool file_op::IsStoredPath(const std::string& path, const _FILE_INFO_tag& info) {
+    return info.path == path || Composed(info.path) == Composed(path);
+}
+
 bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
     return std::tie(a.exists, a.size, a.mtime, a.type, a.path, a.name) ==
            std::tie(b.exists, b.size, b.mtime, b.type, b.path, b.name);
@@ -102,7 +106,7 @@ bool IsFileExist(const std::string& path, bool exact) {
     if (GetFileInfo(path, info) < 0 || !info.exists) {
         return false;
     }
-    return !exact || info.path == path || Composed(info.path) == Composed(path);
+    return !exact || file_op::IsStoredPath(path, info);
 }
 
 int FSStat(const std::string& path, _FILE_INFO_tag& info, bool exact) {

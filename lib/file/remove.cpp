@@ -11,8 +11,7 @@
 
 #include "lib/file/file-op-internal.h"
 #include "lib/file/file-op.h"
-#include "lib/platform/open_file.h"
-#include "lib/platform/retry.h"
+#include "lib/platform/platform.h"
 #include "lib/platform/unique_fd.h"
 
 using file_op::UniqueDir;
@@ -24,9 +23,9 @@ namespace {
 // has 256 descriptors by default.
 constexpr std::size_t kMaxOpenFolders = 16;
 
-// The largest number of times that a folder is listed. Some file systems skip entries while others
-// are removed, so a folder that is not empty after its listing is listed again. Without the limit,
-// another program that keeps creating files in the folder would keep the removal busy.
+// How often a folder that is not empty after its listing is listed again, and one more. Some file
+// systems skip entries while others are removed. The limit is for a folder in which another program
+// keeps creating files.
 constexpr int kMaxListings = 20;
 
 // Identifies a folder independently of its path.
@@ -39,6 +38,10 @@ bool operator==(const FolderId& a, const FolderId& b) {
     return a.device == b.device && a.inode == b.inode;
 }
 
+FolderId IdOf(const struct stat& status) {
+    return {status.st_dev, status.st_ino};
+}
+
 struct OpenedFolder {
     UniqueDir stream;
     FolderId id{};
@@ -47,34 +50,14 @@ struct OpenedFolder {
 // Opens a folder without following a symbolic link. The stream is null on failure.
 OpenedFolder OpenFolderAt(int parent, const char* name) {
     OpenedFolder folder;
-    const int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    UniqueFd descriptor(RetryInterrupted([&] { return openat(parent, name, flags); }));
+    folder.stream = file_op::OpenFolderAt(parent, name);
     struct stat status;
-    if (descriptor.IsOpen() && fstat(descriptor.Get(), &status) == 0) {
-        folder.id = {status.st_dev, status.st_ino};
-        folder.stream.reset(fdopendir(descriptor.Get()));
-    }
-    if (folder.stream != nullptr) {
-        descriptor.Release();  // The stream closes it.
+    if (folder.stream != nullptr && fstat(dirfd(folder.stream.get()), &status) == 0) {
+        folder.id = IdOf(status);
+    } else {
+        folder.stream.reset();
     }
     return folder;
-}
-
-// The folder that holds an object, and the object's name there.
-struct Location {
-    std::string folder;
-    std::string name;
-};
-
-// Splits a path. Separators at its end stay with the name, because the system follows a symbolic
-// link whose name is followed by a separator.
-Location LocationOf(const std::string& path) {
-    const std::size_t end = path.find_last_not_of('/');
-    const std::size_t separator = end == std::string::npos ? end : path.rfind('/', end);
-    if (separator == std::string::npos) {
-        return {".", path};
-    }
-    return {path.substr(0, separator + 1), path.substr(separator + 1)};
 }
 
 // Removes one folder and everything below it.
@@ -84,19 +67,15 @@ Location LocationOf(const std::string& path) {
 // is removed. And the tree may be so deep that its paths are longer than the system accepts.
 class TreeRemoval {
 public:
-    // Refers to both paths. The stored path is only for the records in the log.
+    // Refers to both paths. The stored path has no symbolic links in it.
     TreeRemoval(const std::string& path, const std::string& stored_path)
         : path_(path), stored_path_(stored_path) {}
 
     // Returns 0 on success, also if the folder cannot be opened, and -3 after the first failure.
     int Run() {
-        Location location = LocationOf(path_);
-        above_ = PlatformOpenFile(location.folder, O_RDONLY | O_DIRECTORY);
-        if (!above_.IsOpen()) {
-            // The user may search that folder, but not read it. The path still leads through it.
-            location.name = path_;
-        }
-        if (!Enter(location.name.c_str())) {
+        above_ = PlatformOpenForSearch(FSParentPath(stored_path_));
+        const std::string name = above_.IsOpen() ? FSBaseName(stored_path_) : path_;
+        if (!EnterOrLeave(name.c_str())) {
             return -3;
         }
         while (!levels_.empty()) {
@@ -129,14 +108,15 @@ private:
         return above_.IsOpen() ? above_.Get() : AT_FDCWD;
     }
 
-    // Makes a folder the innermost level. Leaves it alone if it cannot be opened; its parent then
-    // cannot be removed either. Returns false if it is on another volume than the tree.
-    bool Enter(const char* name) {
+    // Makes a folder the innermost level, or leaves it alone if it cannot be opened; its parent
+    // then cannot be removed either. Returns false if a volume is mounted there.
+    bool EnterOrLeave(const char* name) {
         OpenedFolder folder = OpenFolderAt(DescriptorAbove(levels_.size()), name);
         if (folder.stream == nullptr) {
             return true;
         }
-        if (!levels_.empty() && folder.id.device != levels_.front().id.device) {
+        if (!levels_.empty() && (folder.id.device != levels_.front().id.device ||
+                                 PlatformIsMountRoot(dirfd(folder.stream.get())))) {
             return false;
         }
         levels_.push_back({name, folder.id, std::move(folder.stream)});
@@ -155,7 +135,7 @@ private:
         LogInspection(entry.d_name);
         const int folder = DescriptorOf(levels_.size() - 1);
         if (IsFolderAt(folder, entry)) {
-            return Enter(entry.d_name);
+            return EnterOrLeave(entry.d_name);
         }
         if (unlinkat(folder, entry.d_name, 0) != 0) {
             return errno == ENOENT;  // Another program has removed it.
@@ -176,14 +156,12 @@ private:
     // Removes the innermost folder after its listing, or begins to list it again. Returns false on
     // failure.
     bool FinishListing() {
-        Level& level = levels_.back();
         if (!OpenParentAgain()) {
             return false;
         }
-        const int parent = DescriptorAbove(levels_.size() - 1);
-        if (unlinkat(parent, level.name.c_str(), AT_REMOVEDIR) != 0) {
-            const bool is_not_empty = errno == ENOTEMPTY || errno == EEXIST;
-            return is_not_empty && ListAgain(level);
+        levels_.back().stream.reset();
+        if (!RemoveInnermost()) {
+            return (errno == ENOTEMPTY || errno == EEXIST) && ListAgain();
         }
         levels_.pop_back();
         if (!levels_.empty()) {
@@ -192,27 +170,48 @@ private:
         return true;
     }
 
-    // Begins to list a folder again. Returns false if that would not help.
-    static bool ListAgain(Level& level) {
+    bool RemoveInnermost() const {
+        const std::size_t level = levels_.size() - 1;
+        // A path such as "tree/" or "." says more than the folder's name, so the system judges it.
+        if (level == 0 && FSBaseName(path_) != levels_[0].name) {
+            return rmdir(path_.c_str()) == 0;
+        }
+        return unlinkat(DescriptorAbove(level), levels_[level].name.c_str(), AT_REMOVEDIR) == 0;
+    }
+
+    // Begins to list the innermost folder again. Returns false if that would not help, or if
+    // another program has put something else in the folder's place.
+    bool ListAgain() {
+        Level& level = levels_.back();
         if (!level.has_removed || level.listings >= kMaxListings) {
             return false;
         }
-        rewinddir(level.stream.get());
+        OpenedFolder folder = OpenFolderAt(DescriptorAbove(levels_.size() - 1), level.name.c_str());
+        if (folder.stream == nullptr || !(folder.id == level.id)) {
+            return false;
+        }
+        level.stream = std::move(folder.stream);
         level.has_removed = false;
         ++level.listings;
         return true;
     }
 
     // Opens the parent of the innermost folder again if it was closed, by the entry "..". The
-    // listing of the parent then begins anew. Returns false if another program has moved the
-    // innermost folder to another parent, or if the parent cannot be opened.
+    // listing of the parent then begins anew. Returns false if another program has moved one of the
+    // two folders to another parent, or if the parent cannot be opened.
     bool OpenParentAgain() {
-        if (levels_.size() < 2 || levels_[levels_.size() - 2].stream != nullptr) {
+        const std::size_t innermost = levels_.size() - 1;
+        if (innermost == 0 || levels_[innermost - 1].stream != nullptr) {
             return true;
         }
-        Level& parent = levels_[levels_.size() - 2];
-        OpenedFolder folder = OpenFolderAt(DescriptorOf(levels_.size() - 1), "..");
+        Level& parent = levels_[innermost - 1];
+        OpenedFolder folder = OpenFolderAt(DescriptorOf(innermost), "..");
         if (folder.stream == nullptr || !(folder.id == parent.id)) {
+            return false;
+        }
+        struct stat status;
+        if (innermost > 1 && (fstatat(dirfd(folder.stream.get()), "..", &status, 0) != 0 ||
+                              !(IdOf(status) == levels_[innermost - 2].id))) {
             return false;
         }
         parent.stream = std::move(folder.stream);

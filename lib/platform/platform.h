@@ -8,21 +8,31 @@
 #include <cstddef>
 #include <string>
 
+#include "lib/platform/unique_fd.h"
+
 /// The size of a buffer for a stored path, in bytes, its final NUL included.
 constexpr std::size_t kStoredPathCapacity = 4096;
 
-/// Finds the path under which the file system stores an existing object. It is absolute, symbolic links
-/// among its parent folders are resolved, and every component is spelled as it is stored.
+/// Finds the path under which the file system stores an existing object. It is absolute, symbolic
+/// links among its parent folders are resolved, and every component is spelled as it is stored.
 ///
 /// Follows a final symbolic link only if `follow_final_link` is set or the path ends in "/". On a
 /// case-insensitive volume of Linux, the letter case is that of `path`. `stored` may be `path`
 /// itself.
 ///
-/// Returns 0 and sets `stored` on success. Otherwise leaves `stored` unchanged and returns the system's
-/// error number, which is never 0: the object is not accessible, a folder of its path is missing, or its
-/// stored path does not fit kStoredPathCapacity. Without `follow_final_link`, only macOS reports
-/// that the object itself is missing.
+/// Returns 0 and sets `stored` on success. Otherwise leaves `stored` unchanged and returns the
+/// system's error number, which is never 0: the object is not accessible, a folder of its path is
+/// missing, or its stored path does not fit kStoredPathCapacity. Without `follow_final_link`, only
+/// macOS reports that the object itself is missing.
 int PlatformStoredPath(const std::string& path, bool follow_final_link, std::string& stored);
+
+/// Opens a folder in order to reach its entries by their names. On Linux this needs no permission
+/// to read the folder. The result is not open on failure, and errno tells why.
+UniqueFd PlatformOpenForSearch(const std::string& folder);
+
+/// Returns whether an open folder is the root of a mounted volume. Returns false if the system does
+/// not tell; a volume of its own then still has its own device number.
+bool PlatformIsMountRoot(int folder);
 
 /// Finds the type of the file system that holds a path: "nfs", "smbfs" or "afpfs" for a network
 /// volume, "msdos" for a FAT volume, and any other text for all others.

@@ -28,7 +28,8 @@ int RealPath(const std::string& path, std::string& stored) {
     return 0;
 }
 
-// The path of the folder that holds the object. It ends in no separator: realpath would look at it twice.
+// The path of the folder that holds the object. It ends in no separator: realpath would look at it
+// twice.
 std::string FolderOf(const std::string& path, std::size_t separator) {
     if (separator == std::string::npos) {
         return ".";

@@ -39,11 +39,18 @@ TEST(FSRemove, DuringAnIntrusionRemovesNothingOutsideTheTree) {
         fs::rename("tree/victim", "aside");
         fs::create_symlink("../foreign", "tree/victim");
     };
+    const auto move_away = [](const std::string& folder) {
+        fs::rename(folder, "foreign/moved");
+        WriteDeep(folder + "/new", "");
+        WriteFile("foreign/moved/late", "");
+    };
     // At which entry another program does what, and the result.
     const std::tuple<std::string, std::function<void()>, int> rows[] = {
         {"victim", swap, -3},
         {"file", swap, -3},
         {"deep", [] { fs::rename("tree/victim/d/d", "foreign/d"); }, -3},
+        {"file", [&] { move_away("tree/victim"); }, -3},
+        {"shallow", [&] { move_away("tree/victim/other"); }, -3},
         {"deep", [&] { WriteFile(deep + "/late", ""), WriteFile(deep + "/../late", ""); }, 0},
     };
     for (const auto& [listed, action, result] : rows) {
@@ -51,11 +58,13 @@ TEST(FSRemove, DuringAnIntrusionRemovesNothingOutsideTheTree) {
         fs::current_path(dir.path());
         WriteDeep("tree/victim/file", "");
         WriteDeep(deep + "/deep", "");
+        WriteDeep("tree/victim/other/shallow", "");
         WriteDeep("foreign/file", "kept");
         intrusion = {listed, action};
         EXPECT_EQ(result, FSRemove("tree/", false)) << listed;
         EXPECT_EQ("", intrusion.name);
         EXPECT_EQ("kept", ReadFile("foreign/file"));
+        EXPECT_EQ(fs::exists("foreign/moved"), fs::exists("foreign/moved/late"));
         EXPECT_EQ(result != 0, fs::exists("tree"));
         fs::current_path("/");
     }

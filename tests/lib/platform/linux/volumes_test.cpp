@@ -33,16 +33,20 @@ TEST(Volumes, OnANetworkOrOfTheFatTypeAreToldAndFailuresLogged) {
     EXPECT_EQ(3U, log.All().size());
 }
 
-TEST(FSRemove, WithAnotherVolumeInsideATreeLeavesThatVolumeAlone) {
+TEST(FSRemove, WithAVolumeMountedInsideATreeLeavesThatVolumeAlone) {
     const TempDir dir;
-    std::filesystem::create_directories(dir / "tree/volume");
+    const std::string volume = dir / "tree/volume";
+    std::filesystem::create_directories(volume);
+    std::filesystem::create_directories(dir / "foreign");
     if (unshare(CLONE_NEWNS) != 0 ||
-        mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        mount("tmpfs", (dir / "tree/volume").c_str(), "tmpfs", 0, nullptr) != 0) {
+        mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
         GTEST_SKIP() << "Mounting is not permitted.";
     }
-    WriteFile(dir / "tree/volume/file", "kept");
-    EXPECT_EQ(-3, FSRemove(dir / "tree", false));
-    EXPECT_EQ("kept", ReadFile(dir / "tree/volume/file"));
-    EXPECT_EQ(0, umount((dir / "tree/volume").c_str()));
+    for (const unsigned long flag : {0UL, static_cast<unsigned long>(MS_BIND)}) {
+        ASSERT_EQ(0, mount((dir / "foreign").c_str(), volume.c_str(), "tmpfs", flag, nullptr));
+        WriteFile(volume + "/file", "kept");
+        EXPECT_EQ(-3, FSRemove(dir / "tree", false)) << flag;
+        EXPECT_EQ("kept", ReadFile(volume + "/file"));
+        EXPECT_EQ(0, umount(volume.c_str()));
+    }
 }
