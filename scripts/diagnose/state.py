@@ -388,7 +388,8 @@ def _foreign_objects(source, person):
         top = source.entry(folder)
         count += bool(top) and top.uid not in (person, -1)
         if count:
-            yield f"{count} objects in ~/{folder} belong to somebody else and cannot be removed"
+            noun = "an object that belongs" if count == 1 else f"{count} objects that belong"
+            yield f"~/{folder} holds {noun} to somebody else: the launcher cannot remove it all"
 
 
 def _home_obstacles(source, person):

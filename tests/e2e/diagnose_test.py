@@ -111,6 +111,8 @@ class DiagnoseTest(unittest.TestCase):
         else:
             self.assertNotEqual("nothing", step)
             self.assertEqual(world.has_whole_client(), report["state"]["backups"]["is"] == "whole")
+            if world.has_whole_client() and start.kept is None:  # Another start is enough.
+                self.assertEqual("start", step, report)
         if verdicts:
             run = report["runs"][-1]
             self.assertIn(run["is"].partition(",")[0], verdicts, run)

@@ -12,11 +12,17 @@ import sys
 import tarfile
 import tempfile
 import unittest
-import unittest.mock
 import zipfile
+from unittest import mock
 
 SOURCE = pathlib.Path(__file__).parents[2]
 DIAGNOSE = SOURCE / "scripts/diagnose.sh"
+sys.path.insert(0, str(DIAGNOSE.with_suffix("")))
+
+import advice
+import source
+import state
+
 APP = ".Corvimo/Corvimo.app/Contents"
 CLIENT = {
     f"{APP}/MacOS/corvimo-ui": b"client",
@@ -24,6 +30,7 @@ CLIENT = {
     f"{APP}/Resources/text": b"text",
 }
 MEBIBYTE = 1 << 20
+NOBODY = 65534
 
 START = "INFO main(106): >>> user_lumaport_path = /Users/ann/.Lumaport"
 RUNNING = "DEBUG launcher(89): running"
@@ -207,13 +214,13 @@ class DiagnoseTest(unittest.TestCase):
             self.assertEqual(content != all_seven, "Set" in report)
 
     # Puts the client into the package of a launcher.
-    def carry_client(self):
+    def carry_client(self, client=CLIENT):
         resources = self.launcher / "Contents/Resources"
-        self.write(resources / "INFO", CLIENT[f"{APP}/Resources/INFO"])
+        self.write(resources / "INFO", client[f"{APP}/Resources/INFO"])
         package = resources / "package/lumaport.cpk"
         self.write(package, b"")
         with zipfile.ZipFile(package, "w") as stream:
-            for name, content in CLIENT.items():
+            for name, content in client.items():
                 entry = zipfile.ZipInfo(name.replace(APP, "Contents"))
                 entry.external_attr = (0o100755 if name.endswith("-ui") else 0o100644) << 16
                 stream.writestr(entry, content)
@@ -281,6 +288,39 @@ class DiagnoseTest(unittest.TestCase):
             found = state["lock"]["is"], state["process"]["is"]
             self.assertEqual(("held" if is_held else "free", word), found, pid)
         fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)  # The tool has given it back.
+
+    def test_tells_which_owners_and_modes_stop_an_upgrade(self):
+        corvimo, client = self.home / ".Corvimo", self.home / APP / "Resources/text"
+        for path in (self.home, *self.home.rglob("*")):
+            os.chown(path, NOBODY, NOBODY)
+        for path, change, told in (
+            (corvimo, None, ""),
+            (corvimo, lambda path: path.chmod(0o500), "~/.Corvimo may not be written by its owner"),
+            (corvimo, lambda path: os.chown(path, 0, 0), "~/.Corvimo belongs to root: nothing can"),
+            (self.log, lambda path: path.chmod(0o400), "launcher.log may not be written by"),
+            (self.log, lambda path: os.chown(path, 7, 0), "launcher.log belongs to another user"),
+            (client, lambda path: os.chown(path, 0, 0), "Corvimo.app holds an object that belongs"),
+        ):
+            with self.subTest(told):
+                if change:
+                    change(path)
+                report = self.report()
+                self.assertIn(told, report["state"]["owners"]["text"])
+                self.assertEqual("owner" if change else "nothing", report["next_step"]["is"])
+                path.chmod(0o700)
+                os.chown(path, NOBODY, NOBODY)
+
+    def test_counts_the_room_that_an_upgrade_needs(self):
+        backup = self.home / ".Corvimo/Corvimo.app_tmp/Contents/large"
+        self.carry_client({**CLIENT, f"{APP}/Resources/INFO": b"[Version]\nbuild_version=101\n"})
+        self.write(backup, bytes(4096))
+        for free, is_short in (2, True), (3, False):  # Each of the client's files takes a block.
+            volume = mock.Mock(f_bavail=free - 1, f_frsize=4096, f_flag=0)
+            with mock.patch("os.statvfs", return_value=volume):
+                found = state.look(source.Folder(self.home), self.launcher)
+            self.assertEqual((free * 4096, 3 * 4096), (found.free, found.needed))
+            step = advice.next_step(found, mock.Mock(runs=[]))[0]
+            self.assertEqual("space" if is_short else "start", step)
 
     # An archive of these members; each is a name, or a name with what else is set.
     def archive(self, *members, mode="w:gz"):
@@ -362,15 +402,10 @@ class DiagnoseTest(unittest.TestCase):
                 self.assertEqual(b"secret", outside.read_bytes())
 
     def test_reads_no_more_of_an_archive_than_its_limits(self):
-        sys.path.insert(0, str(DIAGNOSE.with_suffix("")))
-        import source
-
-        import state
-
         self.assertEqual([False] * 3, [state.is_running(pid) for pid in (0, -1, 2**40)])
         for limit, value in ("MAX_UNPACKED", 99_999), ("MAX_NAMES", 50), ("MAX_LOG", 10):
             self.write(self.log, bytes(100_000))
-            with self.subTest(limit), unittest.mock.patch.object(source, limit, value):
+            with self.subTest(limit), mock.patch.object(source, limit, value):
                 self.assertEqual(1, len(source.Archive(self.archive()).notes))
 
     def test_says_what_is_wrong_with_its_input(self):
