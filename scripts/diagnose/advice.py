@@ -32,10 +32,9 @@ def _of_running(state, last):
 
 
 def _of_obstacles(state, last):
-    for obstacle in state.obstacles:
-        if "belong" in obstacle or "may not be written" in obstacle:
-            return "owner", _sentence(errors.OWNER)
-        return "obstacle", f"Put this right, then start the launcher again: {obstacle}."
+    step = _of_obstacle(state, True)
+    if step:
+        return step
     if state.launcher and state.launcher.package.state in ("damaged", "missing"):
         return (
             "package",
@@ -43,6 +42,14 @@ def _of_obstacles(state, last):
         )
     if state.lacks_space and state.will_install is not False:
         return "space", _sentence(errors.SPACE)
+    return None
+
+
+def _of_obstacle(state, stops_upgrade):
+    for obstacle in state.obstacles:
+        if obstacle.stops_upgrade == stops_upgrade:
+            text = f"Put this right, then start the launcher again: {obstacle.text}."
+            return ("owner", _sentence(errors.OWNER)) if obstacle.is_owner else ("obstacle", text)
     return None
 
 
@@ -90,6 +97,9 @@ def _of_last_failure(state, last):
 
 
 def _of_what_is_left(state, last):
+    step = _of_obstacle(state, False)
+    if step:
+        return step
     if state.older_data and state.older_data.files and state.client.state == clients.WHOLE:
         return "merge", _sentence(errors.BY_KEY["data-left"].helps)
     for error in last.also if last else ():

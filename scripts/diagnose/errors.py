@@ -12,7 +12,10 @@ NOTE = "note"  # Changes nothing.
 
 AGAIN = "install the launcher again, from a fresh download"
 SPACE = "free space on the disk, then start the launcher again"
-OWNER = "give `~/.Corvimo` back to the person (`sudo chown -R NAME ~/.Corvimo`), then start the launcher again"
+OWNER = (
+    "give `~/.Corvimo` back to the person (`sudo chown -R NAME ~/.Corvimo; chmod -R u+rwX ~/.Corvimo`), "
+    "then start the launcher again"
+)
 
 
 class Error(typing.NamedTuple):

@@ -57,9 +57,9 @@ def _state_items(source, state):
     yield "lock", _lock_item(source, state)
     yield "process", _item(state.process[0], state.process[1])
     yield "space", _space_item(source, state)
-    yield "owners", _item("bad", "; ".join(state.obstacles), _BAD) if state.obstacles else _item(
-        "good", "nothing stands in the way of an upgrade", _GOOD
-    )
+    texts = [obstacle.text for obstacle in state.obstacles]
+    free = "nothing stands in the way of an upgrade"
+    yield "owners", _item("bad", "; ".join(texts), _BAD) if texts else _item("good", free, _GOOD)
     if state.leftovers:
         copies = _count(state.leftovers, "copy", "copies") + " that the launcher could not remove"
         yield "left over", _item("leftovers", f"{copies}, under random names in ~/.Corvimo", _BAD)

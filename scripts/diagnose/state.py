@@ -327,10 +327,18 @@ _LOCKED = sum(
 )
 
 
+class Obstacle(typing.NamedTuple):
+    """What stops an upgrade, or only the lock or the log."""
+
+    text: str
+    is_owner: bool  # Giving ~/.Corvimo back to the person helps.
+    stops_upgrade: bool = True
+
+
 def obstacles(source):
-    """Yields a sentence for each owner, mode or kind that stops an upgrade, the lock or the log."""
+    """Yields an Obstacle for each owner, mode or kind of object that is in the way."""
     person = _person(source)
-    for path, needs, is_folder in (
+    for path, result, is_folder in (
         (CORVIMO, "nothing can be installed", True),
         (CORVIMO + "/log", "no log can be written", True),
         (sources.LOG, "no log can be written", False),
@@ -340,34 +348,29 @@ def obstacles(source):
             entry = source.entry(path)
             if entry and entry.is_link and path != LOCK:
                 entry = source.followed(path)
+            fault = entry and _fault(entry, person, is_folder, path == LOCK)
         except OSError as error:
-            yield f"~/{path} cannot be looked at: {error.strerror}"
-            continue
-        fault = entry and _fault(entry, person, is_folder, path == LOCK)
+            fault = f"cannot be looked at ({error.strerror})", False
         if fault:
-            yield f"~/{path} {fault}: {needs}"
+            yield Obstacle(f"~/{path} {fault[0]}: {result}", fault[1], path == CORVIMO)
     yield from _foreign_objects(source, person)
     if source.is_live:
         yield from _home_obstacles(source, person)
 
 
 def _fault(entry, person, is_folder, is_lock):
-    """Returns what is wrong with an object, or None."""
+    """Returns what is wrong with an object and whether an owner is, or None."""
     if entry.is_folder != is_folder or not (entry.is_folder or entry.is_file):
-        return "is no folder" if is_folder else "is not a file"
+        return "is no folder" if is_folder else "is not a file", False
     if entry.flags & _LOCKED:
-        return "is locked (chflags)"
+        return "is locked (chflags)", False
     if entry.uid == -1:
         return None
     is_foreign = entry.uid != person
-    if is_folder and not _may_write(entry, person):
-        return (
-            f"belongs to {_owner(entry.uid)}" if is_foreign else "may not be written by its owner"
-        )
-    if not is_folder and is_foreign and (is_lock or person != 0):
-        return f"belongs to {_owner(entry.uid)}"
-    if not is_folder and person != 0 and not entry.mode & stat.S_IWUSR:
-        return "may not be written by its owner"
+    is_useless = not is_folder and is_foreign and (is_lock or person != 0)
+    is_closed = not _may_write(entry, person) if is_folder else not entry.mode & stat.S_IWUSR
+    if is_useless or (is_closed and person != 0):
+        return f"belongs to {_owner(entry.uid)}" if is_foreign else "may not be written", True
     return None
 
 
@@ -389,7 +392,8 @@ def _foreign_objects(source, person):
         count += bool(top) and top.uid not in (person, -1)
         if count:
             noun = "an object that belongs" if count == 1 else f"{count} objects that belong"
-            yield f"~/{folder} holds {noun} to somebody else: the launcher cannot remove it all"
+            text = f"~/{folder} holds {noun} to somebody else: the launcher cannot remove it all"
+            yield Obstacle(text, True)
 
 
 def _home_obstacles(source, person):
@@ -397,7 +401,7 @@ def _home_obstacles(source, person):
     if source.entry(CORVIMO) is None and not _may_write(
         sources.Entry(home.st_mode, 0, home.st_uid), person
     ):
-        yield "~ may not be written: ~/.Corvimo cannot be made"
+        yield Obstacle("~ may not be written: ~/.Corvimo cannot be made", False)
     with contextlib.suppress(OSError):
         if os.statvfs(source.real(CORVIMO)).f_flag & os.ST_RDONLY:
-            yield "the volume of ~/.Corvimo is read-only: nothing can be installed"
+            yield Obstacle("the volume of ~/.Corvimo is read-only: nothing can be installed", False)

@@ -295,9 +295,9 @@ class DiagnoseTest(unittest.TestCase):
             os.chown(path, NOBODY, NOBODY)
         for path, change, told in (
             (corvimo, None, ""),
-            (corvimo, lambda path: path.chmod(0o500), "~/.Corvimo may not be written by its owner"),
+            (corvimo, lambda path: path.chmod(0o500), "~/.Corvimo may not be written: nothing"),
             (corvimo, lambda path: os.chown(path, 0, 0), "~/.Corvimo belongs to root: nothing can"),
-            (self.log, lambda path: path.chmod(0o400), "launcher.log may not be written by"),
+            (self.log, lambda path: path.chmod(0o400), "launcher.log may not be written: no log"),
             (self.log, lambda path: os.chown(path, 7, 0), "launcher.log belongs to another user"),
             (client, lambda path: os.chown(path, 0, 0), "Corvimo.app holds an object that belongs"),
         ):
