@@ -115,7 +115,14 @@ endif()
 
 if(APPLE)
     corvimo_library_folders(library_folders)
-    install(CODE "set(CORVIMO_LIBRARY_FOLDERS [[${library_folders}]])
+    # The launcher loads libarchive while it runs, so fixup_bundle does not see that it is needed.
+    get_target_property(archive_file LibArchive::LibArchive LOCATION)
+    file(REAL_PATH ${archive_file} archive_file)
+    corvimo_library_name(archive_name LibArchive::LibArchive)
+    install(FILES ${archive_file} DESTINATION Corvimo.app/Contents/Frameworks
+        RENAME ${archive_name} COMPONENT bundle)
+    install(CODE "set(CORVIMO_ARCHIVE_LIBRARY [[${archive_name}]])
+        set(CORVIMO_LIBRARY_FOLDERS [[${library_folders}]])
         set(CORVIMO_CODESIGN_IDENTITY [[${CORVIMO_CODESIGN_IDENTITY}]])" COMPONENT bundle)
     install(SCRIPT ${CMAKE_CURRENT_LIST_DIR}/finish-bundle.cmake COMPONENT bundle)
 endif()

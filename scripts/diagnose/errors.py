@@ -33,6 +33,14 @@ class Error(typing.NamedTuple):
 # The first row that fits is taken.
 ERRORS = (
     Error(
+        "no-library",
+        "`cannot load libarchive`, then `Allocate archive failed`",
+        "cannot load libarchive",
+        CAUSE,
+        "libarchive is missing or too old; the text in quotation marks names the file or the function",
+        AGAIN + "; on Linux, install `libarchive13`",
+    ),
+    Error(
         "no-package",
         "`archive_read_open_filename failed`, then `… total file numbers, ret: -1`",
         "archive_read_open_filename failed|Failed to read file ",

@@ -30,6 +30,7 @@ STANDING_IN = re.compile(
     r"|(.* (for|to) )?(Q|q[A-Z]|qt_|qstr|std::|testing::|__cxxabiv1::|operator).*"
 )
 SYSTEM = ("/usr/lib/", "/System/Library/")
+RUN_PATH = "@executable_path/../Frameworks"  # The launcher loads libarchive from there.
 NEEDED = (
     "Frameworks/libdeskui-qt.dylib",
     "Frameworks/plugins/platforms/libqcocoa.dylib",
@@ -89,10 +90,28 @@ def expanded(name, app, binary):
     return name.replace("@loader_path", str(binary.parent))
 
 
+def run_paths(app):
+    launcher = app / "Contents/MacOS/launcher"
+    return [expanded(path, app, launcher) for path in names(launcher, "LC_RPATH")]
+
+
+def loading_faults(app):
+    """Finds libraries that the launcher loads while it runs and that are missing."""
+    launcher = app / "Contents/MacOS/launcher"
+    texts = re.findall(rb"\0@rpath/([^\0/]+\.dylib)\0", launcher.read_bytes())
+    linked = [name.rpartition("/")[2] for name in names(launcher, LOADS)]
+    loaded = [text.decode() for text in texts if text.decode() not in linked]
+    if not any(name.startswith("libarchive.") for name in loaded):
+        yield f"{launcher}: is linked with libarchive, or does not load it"
+    for name in loaded:
+        if not any(os.path.isfile(f"{folder}/{name}") for folder in run_paths(app)):
+            yield f"{launcher}: cannot load {name}"
+
+
 def unresolved_faults(app):
     """Finds missing libraries. In the build tree, the launcher's run paths may lead outside the bundle."""
-    launcher = app / "Contents/MacOS/launcher"
-    folders = [expanded(path, app, launcher) for path in names(launcher, "LC_RPATH")]
+    yield from loading_faults(app)
+    folders = run_paths(app)
     for binary in binaries(app):
         for name in names(binary, LOADS):
             paths = [name.replace("@rpath", folder) for folder in folders]
@@ -104,8 +123,11 @@ def unresolved_faults(app):
 def reference_faults(app):
     contents = app / "Contents"
     yield from (f"{name} is missing" for name in NEEDED if not (contents / name).is_file())
+    yield from loading_faults(app)
     for binary in binaries(app):
-        yield from (f"{binary}: searches {path}" for path in names(binary, "LC_RPATH"))
+        allowed = [RUN_PATH] if binary.name == "launcher" else []
+        searched = [path for path in names(binary, "LC_RPATH") if path not in allowed]
+        yield from (f"{binary}: searches {path}" for path in searched)
         is_plugin = "plugins" in binary.relative_to(app).parts  # Qt loads it by its path.
         own = [] if is_plugin else names(binary, "LC_ID_DYLIB")
         for name in own + names(binary, LOADS):

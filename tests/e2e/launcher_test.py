@@ -145,6 +145,22 @@ class LauncherTest(unittest.TestCase):
         failed = "ERROR mac/mac-service: Failed to launch Lumaport UI"
         self.assertEqual([cannot, failed, "DEBUG launcher(117): done"], scene.log()[-3:])
 
+    def test_needs_libarchive_only_for_an_upgrade(self):
+        plugin = "Launcher.app/Contents/Frameworks/plugins/platforms/libqminimal.so"
+        for other, reason in ("empty", "file too short"), (plugin, "undefined symbol: archive_"):
+            with self.subTest(reason):
+                scene = self.upgrade()
+                write(scene.folder / "empty", "")
+                (scene.folder / "libarchive.so.13").symlink_to(other)
+                without = {"LD_LIBRARY_PATH": str(scene.folder)}
+                self.check_run(scene, "100", **without)
+                self.check_run(scene, "100", "101")
+                self.check_run(scene, "100", "101", "101", **without)
+                self.check_installed(scene)
+                warning, error, *_ = [x for x in scene.log() if x.startswith(("WARN", "ERROR"))]
+                self.assertRegex(warning, f"WARNING archive_library: .*{reason}")
+                self.assertEqual("ERROR extractor: Allocate archive failed", error)
+
     @unittest.skipIf(os.geteuid() != 0, "without the rights that the launcher must not have")
     def test_ends_with_status_0_where_nothing_can_be_written(self):
         scene = Scene(self)

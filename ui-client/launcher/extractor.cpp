@@ -1,7 +1,5 @@
 #include "extractor.h"
 
-#include <archive.h>
-#include <archive_entry.h>
 #include <sys/stat.h>
 
 #include <QString>
@@ -10,6 +8,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "archive_library.h"
 #include "lib/file/file-op.h"
 #include "lib/log.h"
 #include "notify_adapter.h"
@@ -29,27 +28,24 @@ constexpr int kWriterOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 
 struct FreeReader {
-    void operator()(archive* reader) const { archive_read_free(reader); }
+    void operator()(archive* reader) const { LibArchive()->archive_read_free(reader); }
 };
 struct FreeWriter {
-    void operator()(archive* writer) const { archive_write_free(writer); }
+    void operator()(archive* writer) const { LibArchive()->archive_write_free(writer); }
 };
 using Reader = std::unique_ptr<archive, FreeReader>;
 using Writer = std::unique_ptr<archive, FreeWriter>;
 
 // Returns the text of a handle's last error, or an empty text where libarchive returns null.
 const char* ErrorString(archive* handle) {
-    const char* const text = archive_error_string(handle);
+    const char* const text = LibArchive()->archive_error_string(handle);
     return text != nullptr ? text : "";
 }
 
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 // This call is deprecated, and does the same as archive_read_support_filter_all.
 void EnableAllCompressions(archive* reader) {
-    archive_read_support_compression_all(reader);
+    LibArchive()->archive_read_support_compression_all(reader);
 }
-#pragma GCC diagnostic pop
 
 bool HasArguments(const Extractor& extractor) {
     return !extractor.destination.empty() && !extractor.archive_path.empty();
@@ -59,10 +55,15 @@ bool HasArguments(const Extractor& extractor) {
 int OpenArchive(archive* reader, const std::string& path) {
     struct stat status;
     if (stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
-        archive_set_error(reader, EINVAL, "Not a regular file");
+        LibArchive()->archive_set_error(reader, EINVAL, "Not a regular file");
         return ARCHIVE_FATAL;
     }
-    return archive_read_open_filename(reader, path.c_str(), kReadBlockSize);
+    return LibArchive()->archive_read_open_filename(reader, path.c_str(), kReadBlockSize);
+}
+
+// Returns null if libarchive cannot be loaded or memory is short.
+Reader NewReader() {
+    return Reader(LibArchive() != nullptr ? LibArchive()->archive_read_new() : nullptr);
 }
 
 // Opens the archive for reading its entries. Logs a failure and returns null.
@@ -71,13 +72,13 @@ Reader OpenForReading(const Extractor& extractor) {
         LOG_MSG(ERROR, "Invalid argument");
         return nullptr;
     }
-    Reader reader(archive_read_new());
+    Reader reader = NewReader();
     if (reader == nullptr) {
         LOG_MSG(ERROR, "Allocate archive failed");
         return reader;
     }
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
+    LibArchive()->archive_read_support_filter_all(reader.get());
+    LibArchive()->archive_read_support_format_all(reader.get());
     if (OpenArchive(reader.get(), extractor.archive_path) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'", ErrorString(reader.get()));
         reader.reset();
@@ -91,14 +92,14 @@ Reader OpenForReading(const Extractor& extractor) {
 // libarchive removes every symbolic link on the path of a hard link's target. So the target gets
 // the stored path of the destination: a symbolic link above the destination belongs to the user.
 bool MoveLinkTargetUnder(std::string destination, archive_entry* entry) {
-    const char* const linked = archive_entry_hardlink(entry);
+    const char* const linked = LibArchive()->archive_entry_hardlink(entry);
     if (linked == nullptr) {
         return true;
     }
     if (FSGetRealPath(destination) != 0) {
         return false;
     }
-    archive_entry_set_hardlink(entry, (destination + "/" + linked).c_str());
+    LibArchive()->archive_entry_set_hardlink(entry, (destination + "/" + linked).c_str());
     return true;
 }
 
@@ -110,15 +111,15 @@ int ExtractUnder(const std::string& destination, const char* name, archive* read
                  archive_entry* entry, archive* writer) {
     const std::string path = destination + "/" + name;
     if (path.size() >= PATH_MAX) {
-        archive_set_error(writer, ENAMETOOLONG, "Path too long");
+        LibArchive()->archive_set_error(writer, ENAMETOOLONG, "Path too long");
         return ARCHIVE_FAILED;
     }
     if (!MoveLinkTargetUnder(destination, entry)) {
-        archive_set_error(writer, ENOENT, "Cannot resolve '%s'", destination.c_str());
+        LibArchive()->archive_set_error(writer, ENOENT, "Cannot resolve '%s'", destination.c_str());
         return ARCHIVE_FAILED;
     }
-    archive_entry_set_pathname(entry, path.c_str());
-    return archive_read_extract2(reader, entry, writer);
+    LibArchive()->archive_entry_set_pathname(entry, path.c_str());
+    return LibArchive()->archive_read_extract2(reader, entry, writer);
 }
 
 // Logs the writer's error, and the reader's if the writer has none: libarchive sets only the
@@ -141,9 +142,9 @@ int Extractor::Count() const {
     }
     int count = 0;
     archive_entry* entry = nullptr;
-    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+    while (LibArchive()->archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
         ++count;
-        archive_read_data_skip(reader.get());
+        LibArchive()->archive_read_data_skip(reader.get());
     }
     return count;
 }
@@ -154,13 +155,13 @@ int Extractor::List() const {
         return -1;
     }
     archive_entry* entry = nullptr;
-    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
-        const char* const name = archive_entry_pathname(entry);
+    while (LibArchive()->archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        const char* const name = LibArchive()->archive_entry_pathname(entry);
         std::printf("%s\n", name != nullptr ? name : "");
         static_cast<void>(std::fflush(stdout));  // The result does not depend on the output.
-        archive_read_data_skip(reader.get());
+        LibArchive()->archive_read_data_skip(reader.get());
     }
-    archive_read_close(reader.get());
+    LibArchive()->archive_read_close(reader.get());
     return 0;
 }
 
@@ -178,17 +179,17 @@ int Extractor::Extract() {
         return -1;
     }
     Writer writer;  // Declared before the reader, so that it is freed after it.
-    const Reader reader(archive_read_new());
+    const Reader reader = NewReader();
     if (reader != nullptr) {
-        writer.reset(archive_write_disk_new());
+        writer.reset(LibArchive()->archive_write_disk_new());
     }
     if (writer == nullptr) {
         LOG_MSG(ERROR, "Allocate extractor failed");
         return -1;
     }
-    archive_write_disk_set_options(writer.get(), kWriterOptions);
+    LibArchive()->archive_write_disk_set_options(writer.get(), kWriterOptions);
     EnableAllCompressions(reader.get());
-    archive_read_support_format_all(reader.get());
+    LibArchive()->archive_read_support_format_all(reader.get());
     if (OpenArchive(reader.get(), archive_path) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "Failed to read file '%s' ('%s')", archive_path.c_str(),
                 ErrorString(reader.get()));
@@ -200,7 +201,7 @@ int Extractor::Extract() {
 int Extractor::ExtractEntries(archive* reader, archive* writer, int total) const {
     for (int index = 1;; ++index) {
         archive_entry* entry = nullptr;
-        const int status = archive_read_next_header(reader, &entry);
+        const int status = LibArchive()->archive_read_next_header(reader, &entry);
         if (status == ARCHIVE_EOF) {
             return 0;
         }
@@ -216,7 +217,7 @@ int Extractor::ExtractEntries(archive* reader, archive* writer, int total) const
 
 int Extractor::ExtractEntry(archive* reader, archive* writer, archive_entry* entry, int total,
                             int index) const {
-    const char* const name = archive_entry_pathname(entry);
+    const char* const name = LibArchive()->archive_entry_pathname(entry);
     if (name == nullptr) {
         LOG_MSG(ERROR, "archive_entry_pathname failed");
         return -1;
@@ -226,7 +227,7 @@ int Extractor::ExtractEntry(archive* reader, archive* writer, archive_entry* ent
         return -1;
     }
     Notify_Adapter::GetInstance()->UpdateProgress(total, index);
-    if (archive_write_finish_entry(writer) != ARCHIVE_OK) {
+    if (LibArchive()->archive_write_finish_entry(writer) != ARCHIVE_OK) {
         LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'", ErrorString(writer));
         return -1;
     }
@@ -234,7 +235,7 @@ int Extractor::ExtractEntry(archive* reader, archive* writer, archive_entry* ent
 }
 
 int Extractor::copy_data(archive* reader, archive* writer) {
-    if (reader == nullptr || writer == nullptr) {
+    if (reader == nullptr || writer == nullptr || LibArchive() == nullptr) {
         LOG_MSG(ERROR, "Invalid Argument");
         return -1;
     }
@@ -242,7 +243,7 @@ int Extractor::copy_data(archive* reader, archive* writer) {
         const void* buffer = nullptr;
         std::size_t size = 0;
         la_int64_t offset = 0;
-        const int status = archive_read_data_block(reader, &buffer, &size, &offset);
+        const int status = LibArchive()->archive_read_data_block(reader, &buffer, &size, &offset);
         if (status == ARCHIVE_EOF) {
             return 0;
         }
@@ -250,7 +251,7 @@ int Extractor::copy_data(archive* reader, archive* writer) {
             LOG_MSG(ERROR, "archive_read_data_block failed: '%s'", ErrorString(reader));
             return -1;
         }
-        if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
+        if (LibArchive()->archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
             LOG_MSG(ERROR, "archive_write_data_block failed: '%s'", ErrorString(writer));
             return -1;
         }
