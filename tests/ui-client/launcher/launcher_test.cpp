@@ -39,6 +39,7 @@ struct Dialog : testing::Test {
         launcher.Run();
         launcher.Start();
         EXPECT_EQ(0, QApplication::exec());
+        EXPECT_FALSE(dialog->isVisible());
         const std::string calls = "lsregister -u " + home.app + "\nopen -n -a " + home.app + "\n";
         EXPECT_TRUE(QTest::qWaitFor([&] { return ReadFile(home / "calls") == calls; }, 60000));
         EXPECT_EQ(Records{"ERROR mac/mac-service: Cannot unregister bundle, " + home.app},

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "UIPathManager.h"
+#include "client_bundle.h"
 #include "mac/mac-service.h"
 #include "tests/support/captured_log.h"
 #include "tests/support/private_home.h"
@@ -158,12 +159,18 @@ TEST(StopService, ProcessThatCannotHaveWrittenThePidFileGetsNoSignal) {
     ASSERT_EQ(0, posix_spawn(&program, in_folder.c_str(), nullptr, nullptr,
                              const_cast<char* const*>(argv), environ));
     Child child(0, 0);
+    const pid_t zombie = fork();  // The system does not tell its executable.
+    if (zombie == 0) {
+        _exit(0);
+    }
+    ASSERT_EQ(0, waitid(P_PID, static_cast<id_t>(zombie), nullptr, WEXITED | WNOWAIT));
     const std::string other =
         "' belongs to '" + self + "', not to the client, nothing to terminate";
     // clang-format off
     const struct { pid_t pid; int file_age; std::string calls, record; } rows[] = {
         {child.Pid(), 60, "", "pid " + std::to_string(child.Pid()) + " in '" + path + other},
         {getpid(), 0, "", "pid " + std::to_string(getpid()) + " in '" + path + other},
+        {zombie, 60, "", "pid " + std::to_string(zombie) + " in '" + path + "' belongs to 'another program', not to the client, nothing to terminate"},
         {program, 60, "15 0 (0 )*", ""},
         {child.Pid(), 0, "15 0 (0 )*", ""},
     };
@@ -183,6 +190,7 @@ TEST(StopService, ProcessThatCannotHaveWrittenThePidFileGetsNoSignal) {
                   log.All());
     }
     EXPECT_EQ(0, child.Status());
+    EXPECT_EQ(zombie, waitpid(zombie, nullptr, 0));
 }
 
 TEST(StopService, PidFileThatNamesNoProcessSendsNoSignal) {
@@ -248,6 +256,27 @@ TEST(PrepareUserEnv, WithoutAFreeBackupNameFailsAndWithOneInstalls) {
     fs::remove_all(home.app + "_tmp9");
     EXPECT_EQ(0, MacService().PrepareUserEnv());
     EXPECT_EQ(std::vector<std::string>{"Corvimo.app"}, NamesIn(home / ".Corvimo"));
+    WriteDeep(home.app + "_tmp3/leftover", "");
+    MacService().RemoveLeftovers();
+    EXPECT_EQ(std::vector<std::string>{"Corvimo.app"}, NamesIn(home / ".Corvimo"));
+}
+
+TEST(InspectBundle, BundleWithoutAnExecutableOrAWholeNumberAsItsBuildIsIncomplete) {
+    // clang-format off
+    const struct { const char* info; fs::perms mode; ClientBundle::State state; } rows[] = {
+        {"[Version]\nbuild_version=12\n", fs::perms::owner_all, ClientBundle::kWhole},
+        {"[Version]\nbuild_version=12\n", fs::perms::owner_read, ClientBundle::kIncomplete},
+        {"[Version]\nbuild_version=12a\n", fs::perms::owner_all, ClientBundle::kIncomplete},
+        {"[Other]\nbuild_version=12\n", fs::perms::owner_all, ClientBundle::kIncomplete},
+    };
+    // clang-format on
+    for (const auto& row : rows) {
+        const TempDir bundle;  // A new one for each row, because QSettings caches what it has read.
+        WriteFile(bundle / "run", "");
+        WriteFile(bundle / "INFO", row.info);
+        fs::permissions(bundle / "run", row.mode);
+        EXPECT_EQ(row.state, InspectBundle(bundle.path(), {"/run", "/INFO"}).state) << row.info;
+    }
 }
 
 TEST(MigrateService, WithNoPlaceForTheDataChangesNothing) {
