@@ -49,7 +49,8 @@ private:
 };
 
 const std::string& PathOfLevels(long levels) {
-    // Temporary folders are deeper than that on some systems; this one is on all of them, and no link.
+    // Temporary folders are deeper than that on some systems; this one is on all of them, and no
+    // link.
     static const std::string two_levels = "/usr/bin";
     static const DeepFolder four_levels(4);
     static const DeepFolder eight_levels(8);

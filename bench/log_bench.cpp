@@ -1,6 +1,6 @@
-// The cost of a record that is written, against spdlog writing the same text to a file of its own, with
-// its basic sink and with the one that rotates; and of a record that is suppressed, against one lookup in
-// a map of thresholds.
+// The cost of a record that is written, against spdlog writing the same text to a file of its own,
+// with its basic sink and with the one that rotates; and of a record that is suppressed, against
+// one lookup in a map of thresholds.
 
 #include <benchmark/benchmark.h>
 #include <spdlog/sinks/basic_file_sink.h>

@@ -1,5 +1,5 @@
-// Runs a program and, after all that it prints, prints the seconds that it took and the kibibytes of
-// memory that it had at most:
+// Runs a program and, after all that it prints, prints the seconds that it took and the kibibytes
+// of memory that it had at most:
 //
 //   measure [--quiet] PROGRAM ARGUMENTS...
 //

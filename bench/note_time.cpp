@@ -1,5 +1,5 @@
-// Stands in for the system's `open`: appends the time of the monotonic clock, in seconds, to the file that
-// the environment names, and opens nothing.
+// Stands in for the system's `open`: appends the time of the monotonic clock, in seconds, to the
+// file that the environment names, and opens nothing.
 
 #include <time.h>
 

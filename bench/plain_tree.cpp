@@ -2,8 +2,8 @@
 //
 //   plain_tree copy SOURCE DESTINATION | plain_tree move SOURCE DESTINATION
 //
-// Each file is flushed before it is closed; a moved one loses its source before that. A failure ends
-// the work.
+// Each file is flushed before it is closed; a moved one loses its source before that. A failure
+// ends the work.
 
 #include <dirent.h>
 #include <fcntl.h>
