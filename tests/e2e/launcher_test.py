@@ -158,7 +158,7 @@ class LauncherTest(unittest.TestCase):
                 self.check_run(scene, "100", "101", "101", **without)
                 self.check_installed(scene)
                 warning, error, *_ = [x for x in scene.log() if x.startswith(("WARN", "ERROR"))]
-                self.assertRegex(warning, f"WARNING archive_library: .*{reason}")
+                self.assertRegex(warning, f"WARNING extractor: cannot load .*{reason}")
                 self.assertEqual("ERROR extractor: Allocate archive failed", error)
 
     @unittest.skipIf(os.geteuid() != 0, "without the rights that the launcher must not have")
