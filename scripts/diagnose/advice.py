@@ -4,8 +4,6 @@ import client as clients
 import errors
 import state as states
 
-REPORT = "tar -C ~ --exclude .Corvimo/data -czf ~/corvimo-report.tar.gz .Corvimo"
-START = "start the launcher"
 RESTORE = "rm -rf ~/.Corvimo/Corvimo.app && mv ~/.Corvimo/{} ~/.Corvimo/Corvimo.app"
 LEVELS = ("launcher_debug", "service_debug", "extractor_debug")
 
@@ -60,9 +58,8 @@ def _of_broken_client(state, last):
         return "look", f"Find out why the client cannot be looked at: {state.client.reason}."
     backup = state.whole_backup
     if backup and last and last.verdict == "failed, not put back":
-        return "restore", _sentence(
-            errors.BY_KEY["not-put-back"].helps + ": " + RESTORE.format(backup[0])
-        )
+        advice = errors.plain(errors.BY_KEY["not-put-back"].helps)
+        return "restore", f"{advice}: {RESTORE.format(backup[0])}"
     if backup:
         return (
             "start",

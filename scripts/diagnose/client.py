@@ -48,8 +48,9 @@ def build_in(text):
 
 def leading_number(text):
     """Returns the number that the launcher makes of a text when it compares builds."""
-    found = re.match(r"[ \t\n\v\f\r]*([+-]?[0-9]{1,18})", text or "")
+    found = re.match(r"[ \t\n\v\f\r]*([+-]?[0-9]{1,30})", text or "")
     number = int(found.group(1)) if found else 0
+    number = max(-(2**63), min(number, 2**63 - 1))
     return (number + 2**31) % 2**32 - 2**31
 
 

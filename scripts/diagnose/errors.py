@@ -250,7 +250,7 @@ NOT_LOGGED = Error(
     "",
     CAUSE,
     "the components that tell it are silent",
-    "start the launcher once more with the levels below",
+    "start the launcher once more with these at level 7",
 )
 
 _PATTERNS = [(re.compile(error.pattern), error) for error in ERRORS]

@@ -246,7 +246,7 @@ def _verdict_text(run, source, target, seconds):
 
 def _cause_text(problem, privacy):
     text = errors.plain(problem.error.meaning)
-    message = privacy.message(problem.text)
+    message = privacy.message(problem.text[:1000])
     if problem.error is errors.OTHER:
         return f"{text}: {message[:200]}"
     quoted = message.partition("'")[2].rpartition("'")[0]

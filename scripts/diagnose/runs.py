@@ -52,7 +52,6 @@ _TEXTS = (
     (b"Failed to extract package, and no old", "no old"),
     (b"failed to put back client from ", "not put back"),
 )
-_BUILD = re.compile(r"\(.*?, .*?, (.*), .*?\)$")
 
 # The last of these that was seen tells where a start ended that did not end in order.
 _STAGES = (
@@ -113,12 +112,16 @@ def _read_rest(text):
         (name for begin, name in _TEXTS if message.startswith(begin)), ""
     )
     message = message.decode("utf-8", "replace")
-    build = _BUILD.search(message) if event in ("target", "source") else None
+    version = message.split(", ") if event in ("target", "source") else ()
     problem = Problem(errors.find(message), message) if level <= 5 else None
     if problem and problem.error.key == "no-backup":
         event = "no backup"
     return Rest(
-        level, COMPONENTS.get(source, ""), event, build.group(1)[:20] if build else "", problem
+        level,
+        COMPONENTS.get(source, ""),
+        event,
+        version[2][:20] if len(version) == 4 else "",
+        problem,
     )
 
 

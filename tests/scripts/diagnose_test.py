@@ -179,11 +179,13 @@ class DiagnoseTest(unittest.TestCase):
         for name, content, note in (
             ("binary", bytes(range(256)) * 999, "holds no record"),
             ("half a record", record(START).encode()[:-9], "ends inside a record"),
-            ("nothing", b"", None),
+            ("nothing", b"", "The log is silent"),
+            ("slashes", record("ERROR file-op(1): x" + "/" * 16000), "does not have: x///"),
+            ("commas", record(TARGET + ", " * 8000), "ended half-way"),
         ):
             with self.subTest(name):
                 self.write(self.log, content)
-                self.assertIn(note or "The log is silent", self.tell(self.home))
+                self.assertIn(note, self.tell(self.home, timeout=60))
         with open(self.log, "wb") as log:
             log.truncate(250 * MEBIBYTE)  # One line without an end.
         self.write(self.log.with_name("launcher.log_0"), record(NO_TOOL) * 50_000)
@@ -276,6 +278,7 @@ class DiagnoseTest(unittest.TestCase):
             (0, True, None, "no process"),
             (-1, False, None, "no process"),
             (2**32, False, None, "no process"),
+            (10**20, False, None, "no process"),
             (2**22 + 1, False, None, "gone"),
             (program.pid, False, None, "maybe"),
             (program.pid, False, (0, 0), "other"),
@@ -309,6 +312,16 @@ class DiagnoseTest(unittest.TestCase):
                 self.assertEqual("owner" if change else "nothing", report["next_step"]["is"])
                 path.chmod(0o700)
                 os.chown(path, NOBODY, NOBODY)
+
+    def test_tells_how_to_put_a_backup_back(self):
+        (self.home / APP).parent.rename(self.home / ".Corvimo/Corvimo.app_tmp3")
+        self.write(self.home / APP / "half", b"")
+        self.write(self.log, record(ROLLED_BACK) + record(FAILED) + record(NOT_BACK))
+        step = self.report()["next_step"]
+        self.assertEqual("restore", step["is"])
+        self.assertTrue(
+            step["text"].endswith("mv ~/.Corvimo/Corvimo.app_tmp3 ~/.Corvimo/Corvimo.app")
+        )
 
     def test_counts_the_room_that_an_upgrade_needs(self):
         backup = self.home / ".Corvimo/Corvimo.app_tmp/Contents/large"
