@@ -32,6 +32,11 @@ struct Logger::State {
     uint64_t log_rotated_count_private = 0;
     bool log_initialized = true;
     int32_t log_flock = -1;  // Reserved for a lock between processes.
+
+    int32_t Threshold(const std::string& component) const {
+        const auto entry = log_level.find(component);
+        return entry == log_level.end() ? static_cast<int32_t>(LEVEL_WARNING) : entry->second;
+    }
 };
 
 // The first call makes the state, and nothing destroys it. If the state were a static object,
@@ -44,7 +49,6 @@ Logger::State& Logger::GetState() {
 
 namespace {
 
-constexpr int32_t kDefaultThreshold = Logger::LEVEL_WARNING;
 constexpr int64_t kMaxFileBytes = 0x500000;
 constexpr std::size_t kNameBytes = 1024;
 constexpr std::size_t kTimestampBytes = 512;
@@ -298,7 +302,7 @@ int32_t Logger::Initialize(const InitConfig& init) {
 
 void Logger::InitializeThresholds() {
     State& state = GetState();
-    state.log_level["default_component"] = kDefaultThreshold;
+    state.log_level["default_component"] = LEVEL_WARNING;
     Config file;
     // Ignored because the file is optional. If the reading fails, the file has no entries.
     static_cast<void>(file.read(state.config.debug_config_path));
@@ -344,13 +348,11 @@ void Logger::Destroy() {
 
 bool Logger::IsNeedToLog(Level level, const std::string& component) {
     const State& state = GetState();
-    return state.log_initialized && level <= GetCompLevel(component);
+    return state.log_initialized && level <= state.Threshold(component);
 }
 
 int32_t Logger::GetCompLevel(const std::string& component) {
-    const State& state = GetState();
-    const auto entry = state.log_level.find(component);
-    return entry == state.log_level.end() ? kDefaultThreshold : entry->second;
+    return GetState().Threshold(component);
 }
 
 void Logger::LogMsg(Level level, const std::string& component, const char* format, ...) {

@@ -79,9 +79,9 @@ int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
         return 0;
     }
     FillFromStatus(status, info);
-    SetPath(path, info);
     const uint32_t type = TypeOfMode(status.st_mode);
     if (type == FILE_TYPE_UNKNOWN) {
+        SetPath(path, info);
         return -1;
     }
     info.type = type;
@@ -91,6 +91,7 @@ int GetFileInfo(const std::string& path, _FILE_INFO_tag& info) {
     const int error = PlatformStoredPath(path, false, stored);
     if (error != 0) {
         LOG_FILE_OP(ERROR, "FSPathMakeRef: %d", error);
+        SetPath(path, info);
         return -1;
     }
     LOG_FILE_OP(DEBUG, "FSRefMakePath outTargetPath path = [%s].", stored.c_str());
