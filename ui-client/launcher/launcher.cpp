@@ -135,6 +135,7 @@ void ProcessingProgressDialog::closeEvent(QCloseEvent* event) {
 }
 
 Launcher::Launcher() {
+    // The worker is made first and destroyed first. The order of the members gives only the latter.
     worker_ = std::make_unique<Worker>();
     dialog_ = std::make_unique<ProcessingProgressDialog>();
     dialog_->setCancelButton(nullptr);
