@@ -123,9 +123,10 @@ int FSRename(const std::string& source, const std::string& destination, bool exa
 ///
 /// Symbolic links are removed and not followed, except that the system follows a link if `path`
 /// ends in "/". The tree is what is below the folder that was inspected: nothing else is removed,
-/// even if another program replaces folders of the tree by symbolic links at the same time. Only
-/// the folder that is being listed stays a part of the tree if another program moves it away. The
-/// depth of the tree is not limited. At most 18 descriptors are open at a time.
+/// even if another program replaces folders of the tree by symbolic links at the same time. A
+/// folder that another program moves out of the tree while it is being removed may still be
+/// emptied, up to what its listing gives. The depth of the tree is not limited. At most 18
+/// descriptors are open at a time.
 ///
 /// Returns 0, also if the object is missing, or if it is a folder that cannot be opened, which then
 /// stays; -1 for an empty path or an object that cannot be inspected; -3 if something cannot be

@@ -23,9 +23,9 @@ namespace {
 // has 256 descriptors by default.
 constexpr std::size_t kMaxOpenFolders = 16;
 
-// How often a folder that is not empty after its listing is listed again, and one more. Some file
-// systems skip entries while others are removed. The limit is for a folder in which another program
-// keeps creating files.
+// The largest number of listings of one folder. Some file systems skip entries while others are
+// removed, so a folder that is not empty after its listing is listed again. The limit is for a
+// folder in which another program keeps creating files.
 constexpr int kMaxListings = 20;
 
 // Identifies a folder independently of its path.
